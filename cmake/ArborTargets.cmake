@@ -1,0 +1,109 @@
+# The functions every folder builds with. They carry all flags; no folder sets one of its own.
+include(GenerateExportHeader)
+include(GoogleTest)
+include(GNUInstallDirs)
+
+# Flags of the project's own code; a project that embeds the libraries never sees them.
+function(arbor_flags target)
+  target_compile_definitions(${target} PRIVATE
+    QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_KEYWORDS QT_NO_FOREACH)
+  if(ARBOR_DEVELOPER)
+    target_compile_options(${target} PRIVATE
+      -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual -Wcast-align
+      -Wformat=2 -Wimplicit-fallthrough -Wundef -Werror)
+  endif()
+  set_target_properties(${target} PROPERTIES AUTOMOC ON)
+endfunction()
+
+# arbor_library(<name> DEPENDS PUBLIC <targets>... [PRIVATE <targets>...])
+# A shared library libK7_<name>.so, alias K7::<name>, hidden visibility, export header <name>_export.h.
+function(arbor_library name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DEPENDS")
+  add_library(${name} SHARED)
+  add_library(K7::${name} ALIAS ${name})
+  set_target_properties(${name} PROPERTIES
+    OUTPUT_NAME K7_${name}
+    VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR}
+    INSTALL_RPATH $ORIGIN
+    CXX_VISIBILITY_PRESET hidden VISIBILITY_INLINES_HIDDEN ON)
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  target_link_options(${name} PRIVATE $<$<NOT:$<BOOL:${ARBOR_INSTRUMENTED}>>:-Wl,--no-undefined>)
+  target_link_libraries(${name} ${arg_DEPENDS})
+  arbor_flags(${name})
+  generate_export_header(${name} EXPORT_FILE_NAME ${PROJECT_BINARY_DIR}/include/${name}_export.h)
+  target_sources(${name} PUBLIC
+    FILE_SET HEADERS BASE_DIRS ${PROJECT_SOURCE_DIR}
+    FILE_SET generated TYPE HEADERS BASE_DIRS ${PROJECT_BINARY_DIR}/include
+    FILES ${PROJECT_BINARY_DIR}/include/${name}_export.h)
+  install(TARGETS ${name} EXPORT K7ArborTargets
+    FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/K7_arbor_qml_support
+    FILE_SET generated DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/K7_arbor_qml_support)
+endfunction()
+
+# arbor_sources(<target> <class>... [HEADERS <name>...] [SOURCES <name>...] [INTERNAL <class>...])
+# Adds <class>.h and <class>.cpp of this folder. HEADERS: a header alone. SOURCES: a source alone.
+# INTERNAL: a pair whose header is not installed.
+function(arbor_sources target)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "HEADERS;SOURCES;INTERNAL")
+  set(here ${CMAKE_CURRENT_SOURCE_DIR})
+  set(public_headers ${arg_UNPARSED_ARGUMENTS} ${arg_HEADERS})
+  set(sources ${arg_UNPARSED_ARGUMENTS} ${arg_SOURCES} ${arg_INTERNAL})
+  list(TRANSFORM public_headers REPLACE "(.+)" "${here}/\\1.h")
+  list(TRANSFORM sources REPLACE "(.+)" "${here}/\\1.cpp")
+  set(internal_headers ${arg_INTERNAL})
+  list(TRANSFORM internal_headers REPLACE "(.+)" "${here}/\\1.h")
+  target_sources(${target}
+    PRIVATE ${sources} ${internal_headers}
+    PUBLIC FILE_SET HEADERS FILES ${public_headers})
+endfunction()
+
+# arbor_tests(<name> [DISPLAY] DEPENDS <targets>... SOURCES <TestFile>...)
+# One test program a folder, one CTest entry a case. DISPLAY: with OpenGL on an X display, under Xvfb where
+# there is no other.
+function(arbor_tests name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "" "DEPENDS;SOURCES")
+  set(sources ${arg_SOURCES})
+  list(TRANSFORM sources APPEND ".cpp")
+  add_executable(${name} ${sources})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE arbor_test_support ${arg_DEPENDS})
+  arbor_flags(${name})
+  set(environment QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software)
+  if(arg_DISPLAY)
+    set(launcher TEST_LAUNCHER)
+    if(CMAKE_VERSION VERSION_LESS 3.29)
+      set(launcher CROSSCOMPILING_EMULATOR)
+    endif()
+    set_target_properties(${name} PROPERTIES ${launcher} ${PROJECT_SOURCE_DIR}/tools/with_display)
+    set(environment QT_QPA_PLATFORM=xcb QT_QUICK_BACKEND=rhi)
+  endif()
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")
+endfunction()
+
+# arbor_bench(<name> DEPENDS <targets>...): the benchmark program of <name>.cpp.
+function(arbor_bench name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DEPENDS")
+  add_executable(${name} ${name}.cpp)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE benchmark::benchmark ${arg_DEPENDS})
+  arbor_flags(${name})
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bench)
+endfunction()
+
+# arbor_fuzz(<name> DEPENDS <targets>...): the libFuzzer program of <name>.cpp. Its test runs the inputs of
+# seeds/<name without Fuzz> and then new ones for a while.
+function(arbor_fuzz name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DEPENDS")
+  add_executable(${name} ${name}.cpp)
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE ${arg_DEPENDS})
+  target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  arbor_flags(${name})
+  add_dependencies(fuzz_targets ${name})
+  string(REGEX REPLACE "Fuzz$" "" seeds ${name})
+  set(found ${CMAKE_CURRENT_BINARY_DIR}/${name}_found)
+  file(MAKE_DIRECTORY ${found})
+  add_test(NAME fuzz.${name}
+    COMMAND ${name} -seed=1 -max_total_time=20 ${found} ${CMAKE_CURRENT_SOURCE_DIR}/seeds/${seeds})
+  set_tests_properties(fuzz.${name} PROPERTIES LABELS fuzz)
+endfunction()
