@@ -1,0 +1,192 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>AbstractGui\CVqAbstractMenu</name>
+    <message>
+        <source>ctrl</source>
+        <translation>strg</translation>
+    </message>
+    <message>
+        <source>alt</source>
+        <comment>keyboard key</comment>
+        <translation>alt</translation>
+    </message>
+    <message>
+        <source>shift</source>
+        <comment>keyboard key</comment>
+        <translation>umschalt</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <comment>keyboard key</comment>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <comment>keyboard key</comment>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <comment>Break keyboard key</comment>
+        <translation>Untbr</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <comment>Backspace keyboard key</comment>
+        <translation>Rück</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <comment>Tab keyboard key</comment>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Num 5</source>
+        <translation>Num 5</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <comment>Enter keyboard key</comment>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <comment>Pause keyboard key</comment>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <comment>Esc keyboard key</comment>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <comment>Space keyboard key</comment>
+        <translation>Leertaste</translation>
+    </message>
+    <message>
+        <source>PageUp</source>
+        <comment>PageUp keyboard key</comment>
+        <translation>Bild auf</translation>
+    </message>
+    <message>
+        <source>PageDown</source>
+        <comment>PageDown keyboard key</comment>
+        <translation>Bild ab</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>End keyboard key</comment>
+        <translation>Ende</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <comment>Home keyboard key</comment>
+        <translation>Pos1</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <comment>Left keyboard key</comment>
+        <translation>Links</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <comment>Up keyboard key</comment>
+        <translation>Auf</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <comment>Right keyboard key</comment>
+        <translation>Rechts</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <comment>Down keyboard key</comment>
+        <translation>Ab</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <comment>Select keyboard key (not present on most keyboards)</comment>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <comment>Print keyboard key</comment>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Exec</source>
+        <translation>Ausführen</translation>
+    </message>
+    <message>
+        <source>SnapShot</source>
+        <translation>Druck</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <comment>Insert keyboard key</comment>
+        <translation>Einfg</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>Delete keyboard key</comment>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Num0</source>
+        <translation>Num 0</translation>
+    </message>
+    <message>
+        <source>Num1</source>
+        <translation>Num 1</translation>
+    </message>
+    <message>
+        <source>Num2</source>
+        <translation>Num 2</translation>
+    </message>
+    <message>
+        <source>Num3</source>
+        <translation>Num 3</translation>
+    </message>
+    <message>
+        <source>Num4</source>
+        <translation>Num 4</translation>
+    </message>
+    <message>
+        <source>Num5</source>
+        <translation>Num 5</translation>
+    </message>
+    <message>
+        <source>Num6</source>
+        <translation>Num 6</translation>
+    </message>
+    <message>
+        <source>Num7</source>
+        <translation>Num 7</translation>
+    </message>
+    <message>
+        <source>Num8</source>
+        <translation>Num 8</translation>
+    </message>
+    <message>
+        <source>Num9</source>
+        <translation>Num 9</translation>
+    </message>
+    <message>
+        <source>Num Lock</source>
+        <comment>NumLock keyboard key</comment>
+        <translation>Num</translation>
+    </message>
+    <message>
+        <source>Scroll Lock</source>
+        <comment>Scroll_key</comment>
+        <translation>Rollen</translation>
+    </message>
+</context>
+</TS>

@@ -1,0 +1,192 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="ja_JP" sourcelanguage="en">
+<context>
+    <name>AbstractGui\CVqAbstractMenu</name>
+    <message>
+        <source>ctrl</source>
+        <translation>ctrl</translation>
+    </message>
+    <message>
+        <source>alt</source>
+        <comment>keyboard key</comment>
+        <translation>alt</translation>
+    </message>
+    <message>
+        <source>shift</source>
+        <comment>keyboard key</comment>
+        <translation>shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Alt</source>
+        <comment>keyboard key</comment>
+        <translation>Alt</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <comment>keyboard key</comment>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Break</source>
+        <comment>Break keyboard key</comment>
+        <translation>Break</translation>
+    </message>
+    <message>
+        <source>Backspace</source>
+        <comment>Backspace keyboard key</comment>
+        <translation>BackSpace</translation>
+    </message>
+    <message>
+        <source>Tab</source>
+        <comment>Tab keyboard key</comment>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>Num 5</source>
+        <translation>テンキー 5</translation>
+    </message>
+    <message>
+        <source>Enter</source>
+        <comment>Enter keyboard key</comment>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <comment>Pause keyboard key</comment>
+        <translation>Pause</translation>
+    </message>
+    <message>
+        <source>Esc</source>
+        <comment>Esc keyboard key</comment>
+        <translation>Esc</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <comment>Space keyboard key</comment>
+        <translation>スペース</translation>
+    </message>
+    <message>
+        <source>PageUp</source>
+        <comment>PageUp keyboard key</comment>
+        <translation>PageUp</translation>
+    </message>
+    <message>
+        <source>PageDown</source>
+        <comment>PageDown keyboard key</comment>
+        <translation>PageDown</translation>
+    </message>
+    <message>
+        <source>End</source>
+        <comment>End keyboard key</comment>
+        <translation>End</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <comment>Home keyboard key</comment>
+        <translation>Home</translation>
+    </message>
+    <message>
+        <source>Left</source>
+        <comment>Left keyboard key</comment>
+        <translation>←</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <comment>Up keyboard key</comment>
+        <translation>↑</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <comment>Right keyboard key</comment>
+        <translation>→</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <comment>Down keyboard key</comment>
+        <translation>↓</translation>
+    </message>
+    <message>
+        <source>Select</source>
+        <comment>Select keyboard key (not present on most keyboards)</comment>
+        <translation>選択</translation>
+    </message>
+    <message>
+        <source>Print</source>
+        <comment>Print keyboard key</comment>
+        <translation>印刷</translation>
+    </message>
+    <message>
+        <source>Exec</source>
+        <translation>実行</translation>
+    </message>
+    <message>
+        <source>SnapShot</source>
+        <translation>PrintScreen</translation>
+    </message>
+    <message>
+        <source>Insert</source>
+        <comment>Insert keyboard key</comment>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>Delete keyboard key</comment>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Num0</source>
+        <translation>テンキー 0</translation>
+    </message>
+    <message>
+        <source>Num1</source>
+        <translation>テンキー 1</translation>
+    </message>
+    <message>
+        <source>Num2</source>
+        <translation>テンキー 2</translation>
+    </message>
+    <message>
+        <source>Num3</source>
+        <translation>テンキー 3</translation>
+    </message>
+    <message>
+        <source>Num4</source>
+        <translation>テンキー 4</translation>
+    </message>
+    <message>
+        <source>Num5</source>
+        <translation>テンキー 5</translation>
+    </message>
+    <message>
+        <source>Num6</source>
+        <translation>テンキー 6</translation>
+    </message>
+    <message>
+        <source>Num7</source>
+        <translation>テンキー 7</translation>
+    </message>
+    <message>
+        <source>Num8</source>
+        <translation>テンキー 8</translation>
+    </message>
+    <message>
+        <source>Num9</source>
+        <translation>テンキー 9</translation>
+    </message>
+    <message>
+        <source>Num Lock</source>
+        <comment>NumLock keyboard key</comment>
+        <translation>NumLock</translation>
+    </message>
+    <message>
+        <source>Scroll Lock</source>
+        <comment>Scroll_key</comment>
+        <translation>ScrollLock</translation>
+    </message>
+</context>
+</TS>
