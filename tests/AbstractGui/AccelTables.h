@@ -1,0 +1,43 @@
+#pragma once
+
+#include "AbstractGui/CVqAccelerators.h"
+
+#include <initializer_list>
+#include <vector>
+
+/// What Translate() gave; the stored values are the untouched ones when nothing was stored.
+struct Fired
+{
+    bool found = false;
+    vq_uint32 id = 0;
+    vq_uint64 target = 0;
+
+    friend bool operator==(const Fired&, const Fired&) = default;
+};
+
+inline constexpr vq_uint32 untouched_id = 4711;
+inline constexpr vq_uint64 untouched_target = 0x5555555555555555;
+
+inline Fired fired(const CVqAccelerators& table, vq_wchar key, vq_uint32 flags)
+{
+    Fired result{false, untouched_id, untouched_target};
+    result.found = table.Translate(key, flags, result.target, result.id);
+    return result;
+}
+
+inline constexpr Fired nothing{false, untouched_id, untouched_target};
+
+inline std::vector<vq_uint32> ids_of(const CVqAccelerators& table)
+{
+    std::vector<vq_uint32> ids;
+    for (vq_uint32 index = 0; index < table.GetAccelsCount(); ++index)
+        ids.push_back(table.GetAccelIdByIndex(index));
+    return ids;
+}
+
+/// Adds the key 0x40 + id with the target 100 * id for each.
+inline void add_ids(CVqAccelerators& table, std::initializer_list<vq_uint32> ids)
+{
+    for (const vq_uint32 id : ids)
+        table.AddAccelKey(id, 16, static_cast<vq_wchar>(0x40 + id), id * 100);
+}
