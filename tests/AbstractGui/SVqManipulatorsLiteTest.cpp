@@ -1,0 +1,197 @@
+#include "AbstractGui/CVqAbstractMenu.h"
+#include "tests/AbstractGui/StoredMenus.h"
+#include "tests/AbstractGui/TestBitmapPool.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+// What the lightweight form does in its own way; what both forms share is tested with SVqMenuRecord.
+
+using testing::ElementsAre;
+
+using Manipulators = CVqAbstractMenu::SVqManipulators;
+
+namespace {
+
+constexpr int ctrl_a = 18 + 65 * 65536;
+constexpr int ctrl_b = 18 + 66 * 65536;
+
+class SVqManipulatorsLite : public testing::Test
+{
+protected:
+    ~SVqManipulatorsLite() override { m_tools.free_all(m_parent.subItem()); }
+
+    int load_into(CVqMenuItem* parent, const Stored::Children& records)
+    {
+        CVqLiteVariantR in = LiteForm::Make(records);
+        return m_tools.load_from_variant(&m_table, parent, in);
+    }
+
+    void load(Stored::Children fields) { load_into(&m_parent, {StoredRecord(std::move(fields))}); }
+
+    Manipulators& m_tools = Manipulators::Instance();
+    CVqMenuItem m_parent;
+    CVqAccelerators m_table;
+};
+
+/// Gives a code for one popup, and notes how texts are split.
+class NotingTools final : public Manipulators
+{
+public:
+    using Manipulators::save_to_variant;
+
+    int save_to_variant(CVqAccelerators* accelerators, CVqMenuItem* item, CVqLiteVariantW& out) override
+    {
+        const int result = Manipulators::save_to_variant(accelerators, item, out);
+        return item && item->id() == 6 ? 77 : result;
+    }
+
+    const vq_wchar* handle_mnemonics_and_split(vq_wchar* destination, const vq_wchar* source,
+                                               vq_wchar mnemonic, const vq_wchar* delimiters) override
+    {
+        m_delimiters = TestMenu::Plain(delimiters);
+        return Manipulators::handle_mnemonics_and_split(destination, source, mnemonic, delimiters);
+    }
+
+    std::string m_delimiters;
+};
+
+}
+
+TEST_F(SVqManipulatorsLite, KeysStopAtTheFirstMissingNumber)
+{
+    load({{VQ_TEXT("Id"), 5u}, {VQ_TEXT("AccelKey0"), ctrl_a}, {VQ_TEXT("AccelKey2"), ctrl_b}});
+
+    EXPECT_EQ(TestMenu::Keys(m_table), "5:18+65");
+}
+
+TEST_F(SVqManipulatorsLite, KeysWithoutNumberZeroAreNotRead)
+{
+    load({{VQ_TEXT("Id"), 5u}, {VQ_TEXT("AccelKey1"), ctrl_a}});
+
+    EXPECT_EQ(m_table.GetAccelsCount(), 0u);
+}
+
+TEST_F(SVqManipulatorsLite, NamesOfKeysAreExact)
+{
+    load({{VQ_TEXT("Id"), 5u},
+          {VQ_TEXT("AccelKey"), ctrl_a},
+          {VQ_TEXT("AccelKey00"), ctrl_a},
+          {VQ_TEXT("AccelKeyOther"), ctrl_b}});
+
+    EXPECT_EQ(m_table.GetAccelsCount(), 0u);
+}
+
+TEST_F(SVqManipulatorsLite, KeysAreReadInTheOrderOfTheirNumbers)
+{
+    load({{VQ_TEXT("Id"), 5u}, {VQ_TEXT("AccelKey1"), ctrl_b}, {VQ_TEXT("AccelKey0"), ctrl_a}});
+
+    EXPECT_EQ(TestMenu::Keys(m_table), "5:18+65 5:18+66");
+}
+
+TEST_F(SVqManipulatorsLite, IdentifierMayStandBehindTheKeys)
+{
+    load({{VQ_TEXT("AccelKey0"), ctrl_a}, {VQ_TEXT("Id"), 5u}});
+
+    EXPECT_EQ(TestMenu::Keys(m_table), "5:18+65");
+}
+
+TEST_F(SVqManipulatorsLite, RecordOfOneKeyHasOnePassForIt)
+{
+    load({{VQ_TEXT("AccelKey0"), ctrl_a}});
+
+    EXPECT_EQ(TestMenu::Keys(m_table), "0:18+65");
+}
+
+TEST_F(SVqManipulatorsLite, WithoutAParentTheItemIsFreedAndItsSubItemsAreNotRead)
+{
+    TestBitmapPool& pool = TestBitmapPool::Fresh();
+    const Stored::Children sub_items{StoredRecord({{VQ_TEXT("Id"), 6u}, {VQ_TEXT("AccelKey0"), ctrl_b}})};
+
+    const int result = load_into(nullptr,
+                                 {StoredRecord({{VQ_TEXT("Id"), 5u},
+                                                {VQ_TEXT("AccelKey0"), ctrl_a},
+                                                {VQ_TEXT("EnaBmpFileName"), VQ_TEXT("/a.png")},
+                                                {VQ_TEXT("SubMenu"), sub_items}})});
+
+    EXPECT_EQ(result, 0);
+    EXPECT_EQ(TestMenu::Keys(m_table), "5:18+65");
+    EXPECT_THAT(pool.TakeCalls(), ElementsAre("AddImage /a.png, , null = 100"));
+}
+
+TEST_F(SVqManipulatorsLite, SubMenuThatIsAValueIsIgnored)
+{
+    load({{VQ_TEXT("Id"), 5u}, {VQ_TEXT("SubMenu"), VQ_TEXT("text")}});
+
+    EXPECT_EQ(TestMenu::Chain(m_parent.subItem()), "5");
+}
+
+TEST_F(SVqManipulatorsLite, ReaderIsLeftInTheLevelWhereItWas)
+{
+    CVqLiteVariantR in = LiteForm::Make(
+        {{VQ_TEXT("Outer"),
+          Stored::Children{StoredRecord({}),
+                           StoredRecord({{VQ_TEXT("SubMenu"), Stored::Children{StoredRecord({})}}})}},
+         {VQ_TEXT("Other"), 1}});
+    in.LevelBegin(VQ_TEXT("Outer"));
+
+    m_tools.load_from_variant(&m_table, &m_parent, in);
+
+    EXPECT_FALSE(in.IsValueSet(VQ_TEXT("Other")));
+    EXPECT_EQ(in.LevelEnd(), 0);
+    EXPECT_TRUE(in.IsValueSet(VQ_TEXT("Other")));
+}
+
+TEST_F(SVqManipulatorsLite, RecordsBeforeTheCursorAreNotRead)
+{
+    CVqLiteVariantR in
+        = LiteForm::Make({StoredRecord({{VQ_TEXT("Id"), 5u}}), StoredRecord({{VQ_TEXT("Id"), 6u}})});
+    in.NextValue();
+
+    m_tools.load_from_variant(&m_table, &m_parent, in);
+
+    EXPECT_EQ(TestMenu::Chain(m_parent.subItem()), "6");
+}
+
+TEST_F(SVqManipulatorsLite, ImageBelowTheModuleIsStoredWithItsWay)
+{
+    TestBitmapPool& pool = TestBitmapPool::Fresh();
+    pool.SetModule(VQ_TEXT("/arbor-none/app.so"));
+    pool.SetSource(1, VQ_TEXT("/arbor-none/img/a.png"), VQ_TEXT(""));
+    CVqMenuItem item;
+    item.setType(6);
+    item.setEnaBmpIndex(1);
+
+    const CVqLiteVariantR stored
+        = LiteForm::Filled([&](CVqLiteVariantW& out) { m_tools.save_to_variant(nullptr, &item, out); });
+
+    EXPECT_EQ(LiteForm::Show(stored), "(Id=0 Type=6 Status=1 EnaBmpFileName=/arbor-none/img/a.pngimga.png)");
+}
+
+TEST_F(SVqManipulatorsLite, ResultIsThatOfTheLastItemsSubItems)
+{
+    NotingTools tools;
+    CVqMenuItem first;
+    CVqMenuItem last;
+    CVqMenuItem child;
+    child.setId(6);
+    first.setSubItem(&child);
+    first.setNextItem(&last);
+    CVqLiteVariantW out;
+
+    EXPECT_EQ(tools.Manipulators::save_to_variant(nullptr, &first, out), 0);
+    last.setSubItem(&child);
+    EXPECT_EQ(tools.Manipulators::save_to_variant(nullptr, &first, out), 77);
+}
+
+TEST_F(SVqManipulatorsLite, TextIsSplitAtBellThenTab)
+{
+    NotingTools tools;
+    CVqMenuItem item;
+    CVqLiteVariantW out;
+
+    tools.save_to_variant(nullptr, &item, out);
+
+    EXPECT_EQ(tools.m_delimiters, "|>");
+}
