@@ -1,0 +1,157 @@
+// One row of a MenuPopup. All state comes from the roles of QuickMenuRows; `session` is set by the popup.
+import QtQuick
+import QtQuick.Templates as T
+
+T.Control {
+    id: row
+
+    required property MenuSession session
+    required property real rowHeight
+    required property real separatorHeight
+
+    required property int index
+    required property int kind
+    required property string styledLabel
+    required property string keyText
+    required property string accessibleName
+    required property bool checked
+    required property bool radio
+    required property bool grayed
+    required property bool shown
+    required property color color1
+    required property color color2
+    required property int lineWidth
+    required property int imageIndex
+    required property QuickMenuRows submenu
+
+    readonly property bool isSeparator: kind === QuickMenuRows.Separator
+    readonly property bool isCurrent: ListView.isCurrentItem
+    readonly property bool hasSample: kind === QuickMenuRows.OneColor || kind === QuickMenuRows.TwoColor
+                                      || kind === QuickMenuRows.LineWidth
+    readonly property color ink: isCurrent ? palette.highlightedText : palette.text
+
+    /// The pointer moved over the row, or clicked it.
+    signal pointedAt
+    signal picked
+
+    objectName: "menuRow" + index
+    width: ListView.view ? ListView.view.width : 0
+    height: !shown ? 0 : isSeparator ? separatorHeight : rowHeight
+    visible: shown
+    enabled: !grayed && !isSeparator
+    leftPadding: 6
+    rightPadding: 6
+
+    Accessible.role: isSeparator ? Accessible.Separator : Accessible.MenuItem
+    Accessible.name: accessibleName
+    Accessible.description: keyText
+    Accessible.checkable: checked || radio
+    Accessible.checked: checked
+    Accessible.focusable: enabled
+    Accessible.ignored: !shown
+    Accessible.onPressAction: row.picked()
+
+    background: Item {
+        Rectangle {
+            anchors.fill: parent
+            visible: row.isCurrent && row.enabled
+            radius: 4
+            color: row.palette.highlight
+        }
+
+        Rectangle {
+            anchors.verticalCenter: parent.verticalCenter
+            visible: row.isSeparator
+            x: 4
+            width: parent.width - 8
+            height: 1
+            color: Qt.alpha(row.palette.text, 0.18)
+        }
+    }
+
+    contentItem: Item {
+        visible: !row.isSeparator
+        opacity: row.grayed ? 0.42 : 1
+
+        MenuMark {
+            id: mark
+
+            anchors.left: parent.left
+            anchors.verticalCenter: parent.verticalCenter
+            shape: !row.checked ? MenuMark.None : row.radio ? MenuMark.Radio : MenuMark.Check
+            color: row.ink
+        }
+
+        Image {
+            id: image
+
+            readonly property bool wanted: row.session.imageSource !== ""
+
+            anchors.left: mark.right
+            anchors.leftMargin: wanted ? 6 : 0
+            anchors.verticalCenter: parent.verticalCenter
+            width: wanted ? 16 : 0
+            height: 16
+            sourceSize: Qt.size(16, 16)
+            source: wanted && row.imageIndex >= 0 ? row.session.imageSource + row.imageIndex : ""
+        }
+
+        MenuSample {
+            id: sample
+
+            anchors.left: image.right
+            anchors.leftMargin: 8
+            anchors.verticalCenter: parent.verticalCenter
+            visible: row.hasSample
+            width: !visible ? 0 : label.text === "" ? parent.width - x - 22 : 48
+            kind: row.kind
+            color1: row.color1
+            color2: row.color2
+            lineWidth: row.lineWidth
+            ink: row.ink
+        }
+
+        Text {
+            id: label
+
+            anchors.left: sample.visible ? sample.right : image.right
+            anchors.leftMargin: 8
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.styledLabel
+            textFormat: Text.StyledText
+            font: row.font
+            color: row.ink
+        }
+
+        Text {
+            anchors.right: arrow.left
+            anchors.rightMargin: 4
+            anchors.verticalCenter: parent.verticalCenter
+            text: row.keyText
+            textFormat: Text.PlainText
+            font: row.font
+            color: row.ink
+            opacity: row.isCurrent ? 0.85 : 0.6
+        }
+
+        MenuMark {
+            id: arrow
+
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            shape: row.submenu ? MenuMark.Arrow : MenuMark.None
+            mirrored: row.mirrored
+            color: row.ink
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        onPositionChanged: mouse => {
+            if (row.session.pointerMoved(this, mouse.x, mouse.y))
+                row.pointedAt();
+        }
+        onClicked: row.picked()
+    }
+}
