@@ -1,0 +1,8 @@
+#pragma once
+
+#include "AbstractGui/CVqAbstractMenu.h"
+
+// The pieces of docs/menus.md, as functions that tests/docs/menu_guideTest.cpp calls.
+void give_keys(CVqAbstractMenu& menu);
+bool assign_user_key(CVqAbstractMenu& menu, vq_uint32 id, vq_uint32 flags, vq_wchar key);
+void hide_commands(CVqAbstractMenu& menu);

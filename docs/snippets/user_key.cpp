@@ -1,0 +1,13 @@
+#include "docs/snippets/menu_guide.h"
+
+// [snippet]
+// Gives `id` a key of the user's own. False when another command has it: ask first, nothing changed.
+bool assign_user_key(CVqAbstractMenu& menu, vq_uint32 id, vq_uint32 flags, vq_wchar key)
+{
+    vq_uint64 target = 0;
+    vq_uint32 holder = 0;
+    if (menu.Translate(key, flags, target, holder) && holder != id)
+        return false;
+    return menu.AppendIdAccelKey(id, flags | 16, key, true) == 0;
+}
+// [end]
