@@ -1,0 +1,22 @@
+// The classes whose virtual operations stand in a fixed order. Nobody runs this file: tools/list_slots asks a
+// compiler for the table of each Slots<...>.
+#include "AbstractGui/CVqAbstractBitmapPool.h"
+#include "AbstractGui/CVqAbstractMenu.h"
+#include "AbstractGui/CVqMenuItem.h"
+#include "AbstractGui/IVqMenuBase.h"
+
+template <typename Class>
+struct Slots : Class
+{
+    Slots();
+};
+
+template <typename Class>
+Slots<Class>::Slots() = default;
+
+template struct Slots<CVqAbstractBitmapPool>;
+template struct Slots<CVqAbstractMenu>;
+template struct Slots<CVqAbstractMenu::IVqVisitorData>;
+template struct Slots<CVqAbstractMenu::SVqManipulators>;
+template struct Slots<CVqMenuItem>;
+template struct Slots<IVqMenuBase>;
