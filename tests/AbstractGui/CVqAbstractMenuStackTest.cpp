@@ -1,13 +1,10 @@
 #include "AbstractGui/CVqAbstractMenu.h"
 #include "AbstractGui/VqHiddenMenuCommands.h"
+#include "tests/support/SmallStack.h"
 #include "tests/support/TestMenu.h"
-
-#include <QThread>
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <memory>
 #include <vector>
 
 // Menus of 100,000 siblings and of 1,000 levels, in a stack of 1 MiB.
@@ -17,14 +14,6 @@ namespace {
 constexpr vq_uint32 siblings = 100'000;
 constexpr vq_uint32 levels = 1'000;
 constexpr vq_uint32 any_status = 0xFF00;
-
-void in_small_stack(const std::function<void()>& work)
-{
-    const std::unique_ptr<QThread> thread(QThread::create(work));
-    thread->setStackSize(1024 * 1024);
-    thread->start();
-    thread->wait();
-}
 
 void fill_wide(TestMenu& menu)
 {
@@ -73,7 +62,7 @@ void use_all(TestMenu& menu, vq_uint32 popup, vq_uint32 last, vq_uint32 items)
 
 TEST(CVqAbstractMenuStack, HundredThousandSiblings)
 {
-    in_small_stack([] {
+    run_in_small_stack([] {
         TestMenu menu;
         fill_wide(menu);
         vq_uint32 index = 0;
@@ -88,7 +77,7 @@ TEST(CVqAbstractMenuStack, HundredThousandSiblings)
 
 TEST(CVqAbstractMenuStack, ThousandLevels)
 {
-    in_small_stack([] {
+    run_in_small_stack([] {
         TestMenu menu;
         fill_deep(menu);
         use_all(menu, 1, levels + 1, levels + 1);
@@ -97,7 +86,7 @@ TEST(CVqAbstractMenuStack, ThousandLevels)
 
 TEST(CVqAbstractMenuStack, MenuOfAnySizeDies)
 {
-    in_small_stack([] {
+    run_in_small_stack([] {
         TestMenu menu;
         fill_wide(menu);
         TestMenu deep;
@@ -107,7 +96,7 @@ TEST(CVqAbstractMenuStack, MenuOfAnySizeDies)
 
 TEST(CVqAbstractMenuStack, CopyOfManyLevels)
 {
-    in_small_stack([] {
+    run_in_small_stack([] {
         TestMenu menu;
         fill_deep(menu);
         TestMenu copy(TestMenu::BackEnd::None);
@@ -120,7 +109,7 @@ TEST(CVqAbstractMenuStack, CopyOfManyLevels)
 
 TEST(CVqAbstractMenuStack, ManyLonelyAccels)
 {
-    in_small_stack([] {
+    run_in_small_stack([] {
         TestMenu menu;
         CVqMenuItem* head = nullptr;
         for (vq_uint32 id = siblings; id > 0; --id) {

@@ -1,43 +1,16 @@
 #include "tests/AbstractGui/MenuTree.h"
 #include "tests/support/CaptureMessages.h"
 #include "tests/support/RecordingMenuBase.h"
+#include "tests/support/SmallStack.h"
 
 #include <QString>
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <pthread.h>
-
 namespace {
 
 constexpr vq_uint32 siblings = 100'000;
 constexpr vq_uint32 levels = 1'000;
-
-// The sanitizers give each call a frame several times as large.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr std::size_t stack_size = 4 << 20;
-#else
-constexpr std::size_t stack_size = 1 << 20;
-#endif
-
-void* Run(void* work)
-{
-    (*static_cast<std::function<void()>*>(work))();
-    return nullptr;
-}
-
-// Does the work in a thread with a stack of 1 MiB and waits for it.
-void OnSmallStack(std::function<void()> work)
-{
-    pthread_attr_t attributes;
-    pthread_attr_init(&attributes);
-    ASSERT_EQ(pthread_attr_setstacksize(&attributes, stack_size), 0);
-    pthread_t thread;
-    ASSERT_EQ(pthread_create(&thread, &attributes, Run, &work), 0);
-    pthread_join(thread, nullptr);
-    pthread_attr_destroy(&attributes);
-}
 
 class Counter final : public CVqAbstractMenu::IVqVisitorData
 {
@@ -102,7 +75,7 @@ TEST_P(LargeMenuTrees, AreSearchedOnASmallStack)
     CVqMenuItem* root = GetParam().make();
     const vq_uint32 last = GetParam().count;
 
-    OnSmallStack([root, last] {
+    run_in_small_stack([root, last] {
         CVqMenuItem* found = Tools().find_item(last, root);
         ASSERT_NE(found, nullptr);
         EXPECT_EQ(found->pos(), GetParam().last_position);
@@ -118,7 +91,7 @@ TEST_P(LargeMenuTrees, AreWalkedOnASmallStack)
 {
     CVqMenuItem* root = GetParam().make();
 
-    OnSmallStack([root] {
+    run_in_small_stack([root] {
         Counter counter;
         EXPECT_TRUE(Tools().visit_all(root, counter));
         EXPECT_EQ(counter.count, GetParam().count + 1);
@@ -136,7 +109,7 @@ TEST_P(LargeMenuTrees, ArePrintedOnASmallStack)
     CVqMenuItem* root = GetParam().make();
     qsizetype lines = 0;
 
-    OnSmallStack([root, &lines] {
+    run_in_small_stack([root, &lines] {
         const CaptureMessages debug(QtDebugMsg);
         Tools().print_all(root, 0);
         lines = debug.Texts().size();
@@ -148,7 +121,7 @@ TEST_P(LargeMenuTrees, ArePrintedOnASmallStack)
 
 TEST_P(LargeMenuTrees, AreCopiedAndFreedOnASmallStack)
 {
-    OnSmallStack([] {
+    run_in_small_stack([] {
         CVqMenuItem* root = GetParam().make();
         CVqMenuItem* copy = Tools().create_item_mainroot(0);
 
@@ -167,7 +140,7 @@ TEST_P(LargeMenuTrees, LoseAnItemOnASmallStack)
     CVqAccelerators table;
     table.AddAccelKey(last, 18, VQ_TEXT('A'), 0);
 
-    OnSmallStack([root, last, &table] {
+    run_in_small_stack([root, last, &table] {
         Tools().remove_accels(root, &table);
         CVqMenuItem* removed = Tools().remove_item(last, root);
         ASSERT_NE(removed, nullptr);
@@ -185,7 +158,7 @@ TEST_P(LargeMenuTrees, AreMirroredOnASmallStack)
     CVqMenuItem* root = GetParam().make();
     RecordingMenuBase base;
 
-    OnSmallStack([root, &base] {
+    run_in_small_stack([root, &base] {
         EXPECT_EQ(Tools().create_all(&base, root->subItem()), 0);
         EXPECT_EQ(base.Calls()->size(), 2u * GetParam().count);
         Tools().destroy_all(&base, root->subItem());

@@ -1,31 +1,12 @@
 #include "tests/AbstractGui/StoredMenus.h"
-
-#include <QThread>
+#include "tests/support/SmallStack.h"
 
 #include <gtest/gtest.h>
-
-#include <functional>
-#include <memory>
 
 namespace {
 
 constexpr int siblings = 100'000;
 constexpr int levels = 1'000;
-
-// The sanitizers give each call a frame several times as large.
-#if defined(__SANITIZE_ADDRESS__)
-constexpr unsigned stack_size = 4 << 20;
-#else
-constexpr unsigned stack_size = 1 << 20;
-#endif
-
-void on_small_stack(std::function<void()> work)
-{
-    const std::unique_ptr<QThread> thread(QThread::create(std::move(work)));
-    thread->setStackSize(stack_size);
-    thread->start();
-    thread->wait();
-}
 
 int length_of(const CVqMenuItem* item)
 {
@@ -50,7 +31,7 @@ protected:
     /// Saves the menu and loads it into another one, in a thread of 1 MiB stack.
     void save_and_load()
     {
-        on_small_stack([this] {
+        run_in_small_stack([this] {
             typename Form::Container stored;
             m_menu.Save(stored);
             m_result = m_loaded.Load(stored);

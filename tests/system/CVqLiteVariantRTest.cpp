@@ -1,7 +1,7 @@
 #include "system/CVqLiteVariantR.h"
 
 #include "system/CVqLiteVariantW.h"
-#include "tests/system/SmallStack.h"
+#include "tests/support/SmallStack.h"
 #include "tests/system/SystemPrinters.h"
 
 #include <gtest/gtest.h>

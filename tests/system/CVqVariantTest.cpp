@@ -1,6 +1,6 @@
 #include "system/CVqVariant.h"
 
-#include "tests/system/SmallStack.h"
+#include "tests/support/SmallStack.h"
 #include "tests/system/SystemPrinters.h"
 
 #include <gtest/gtest.h>

@@ -1,7 +1,7 @@
 #include "system/VqVariantStorage.h"
 
 #include "system/CVqLiteVariantW.h"
-#include "tests/system/SmallStack.h"
+#include "tests/support/SmallStack.h"
 #include "tests/system/SystemPrinters.h"
 #include "tests/system/VariantTrees.h"
 
