@@ -1,8 +1,10 @@
 #pragma once
 
+#include "AbstractGui/CVqAccelRecords.h"
 #include "AbstractGui/CVqAccelerators.h"
 
 #include <initializer_list>
+#include <type_traits>
 #include <vector>
 
 /// What Translate() gave; the stored values are the untouched ones when nothing was stored.
@@ -33,6 +35,22 @@ inline std::vector<vq_uint32> ids_of(const CVqAccelerators& table)
     for (vq_uint32 index = 0; index < table.GetAccelsCount(); ++index)
         ids.push_back(table.GetAccelIdByIndex(index));
     return ids;
+}
+
+/// The array of a table, which is its first member.
+inline const CVqAccelRecords& records_of(const CVqAccelerators& table)
+{
+    static_assert(std::is_standard_layout_v<CVqAccelerators>);
+    return **reinterpret_cast<const CVqAccelRecords* const*>(&table);
+}
+
+/// Which records are enabled.
+inline std::vector<bool> marks_of(const CVqAccelerators& table)
+{
+    std::vector<bool> marks;
+    for (int at = 0; at < records_of(table).GetCount(); ++at)
+        marks.push_back(records_of(table).At(at).enabled);
+    return marks;
 }
 
 /// Adds the key 0x40 + id with the target 100 * id for each.

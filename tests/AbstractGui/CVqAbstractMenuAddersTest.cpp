@@ -33,6 +33,7 @@ TEST_F(CVqAbstractMenuAdders, InsertedPopupsTakeHandlesToo)
 
     EXPECT_EQ(m_menu.Item(new_id)->menu(), 3u);
     EXPECT_EQ(m_menu.Item(51)->menu(), 4u);
+    EXPECT_EQ(m_menu.Text(new_id), "Before");
     EXPECT_EQ(m_menu.Text(51), "After");
 }
 
@@ -100,6 +101,8 @@ TEST_F(CVqAbstractMenuAdders, InsertedCommandsAddTheirKeys)
 
     EXPECT_EQ(TestMenu::Keys(m_menu.MainTable()), "50:18+79 51:18+83");
     EXPECT_EQ(m_menu.Text(new_id), "Open|Ctrl+O");
+    EXPECT_EQ(m_menu.Text(51), "Save|Ctrl+S");
+    EXPECT_EQ(TestMenu::Plain(m_menu.Item(new_id)->command()), "open");
     EXPECT_EQ(TestMenu::Plain(m_menu.Item(51)->command()), "save");
     EXPECT_EQ(m_menu.Item(51)->accelerators(), &m_menu.MainTable());
 }
@@ -260,6 +263,8 @@ TEST_F(CVqAbstractMenuAdders, TwoColorTakesBothColoursAndCommand)
     EXPECT_EQ(m_menu.Item(51)->col2(), 4u);
     EXPECT_EQ(m_menu.Item(52)->col1(), 5u);
     EXPECT_EQ(m_menu.Item(52)->col2(), 6u);
+    EXPECT_EQ(TestMenu::Plain(m_menu.Item(new_id)->command()), "a");
+    EXPECT_EQ(TestMenu::Plain(m_menu.Item(51)->command()), "b");
     EXPECT_EQ(TestMenu::Plain(m_menu.Item(52)->command()), "c");
 }
 
@@ -275,6 +280,8 @@ TEST_F(CVqAbstractMenuAdders, LineWidthTakesWidthTextAndCommand)
     EXPECT_EQ(m_menu.Text(new_id), "Hair");
     EXPECT_EQ(m_menu.Text(51), "Thin");
     EXPECT_EQ(m_menu.Text(52), "Thick");
+    EXPECT_EQ(TestMenu::Plain(m_menu.Item(new_id)->command()), "a");
+    EXPECT_EQ(TestMenu::Plain(m_menu.Item(51)->command()), "b");
     EXPECT_EQ(TestMenu::Plain(m_menu.Item(52)->command()), "c");
 }
 

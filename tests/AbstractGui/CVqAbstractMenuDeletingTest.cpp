@@ -95,14 +95,18 @@ TEST_F(CVqAbstractMenuDeleting, SiblingsBehindADeletedItemStay)
 
 namespace {
 
-/// Writes down what hangs in the tree when an item is destroyed natively.
-class TreeWatcher : public RecordingMenuBase
+/// Writes down what hangs in the tree and which keys there are when an item is destroyed natively.
+class MomentWatcher : public RecordingMenuBase
 {
 public:
-    void DestroyItem(CVqMenuItem*) override { m_trees.push_back(m_menu->Tree()); }
+    void DestroyItem(CVqMenuItem*) override
+    {
+        m_moments.push_back(m_menu->Tree() + " with " + TestMenu::Keys(m_menu->MainTable()) + " and "
+                            + TestMenu::Keys(m_menu->SecondTable()));
+    }
 
     TestMenu* m_menu = nullptr;
-    std::vector<std::string> m_trees;
+    std::vector<std::string> m_moments;
 };
 
 class WatchedMenu : public TestMenu
@@ -114,7 +118,7 @@ public:
         MenuBase() = m_watcher;
     }
 
-    TreeWatcher* m_watcher = new TreeWatcher;
+    MomentWatcher* m_watcher = new MomentWatcher;
 };
 
 }
@@ -122,11 +126,12 @@ public:
 TEST(CVqAbstractMenuDeletingOrder, CommandIsUnlinkedAndThenDestroyedNatively)
 {
     WatchedMenu menu;
-    menu.AppendMenuItem(1, 0, VQ_TEXT("Open"), VQ_TEXT("open"), 0);
+    menu.AppendMenuItem(1, 0, VQ_TEXT("Open\aF1"), VQ_TEXT("open"), 0);
+    menu.SecondTable().AddAccelKey(1, 16, 0x71, 0);
 
     menu.DeleteId(1);
 
-    EXPECT_THAT(menu.m_watcher->m_trees, ElementsAre(""));
+    EXPECT_THAT(menu.m_watcher->m_moments, ElementsAre(" with 1:16+112 and 1:16+113"));
 }
 
 TEST(CVqAbstractMenuDeletingOrder, SeparatorIsDestroyedNativelyAndThenUnlinked)
@@ -136,8 +141,31 @@ TEST(CVqAbstractMenuDeletingOrder, SeparatorIsDestroyedNativelyAndThenUnlinked)
 
     EXPECT_EQ(menu.DeleteId(1), 0);
 
-    EXPECT_THAT(menu.m_watcher->m_trees, ElementsAre("1"));
+    EXPECT_THAT(menu.m_watcher->m_moments, ElementsAre("1 with  and "));
     EXPECT_EQ(menu.Tree(), "");
+}
+
+TEST(CVqAbstractMenuDeletingOrder, ChildrenAreDestroyedNativelyWhileTheyAndTheirKeysAreThere)
+{
+    WatchedMenu menu;
+    menu.AppendPopup(1, 0, VQ_TEXT("File"));
+    menu.AppendMenuItem(2, 1, VQ_TEXT("Open\aF1"), VQ_TEXT("open"), 0);
+
+    menu.DeleteAllIn(1);
+
+    EXPECT_THAT(menu.m_watcher->m_moments, ElementsAre("1(2) with 2:16+112 and "));
+}
+
+TEST(CVqAbstractMenuDeletingOrder, WholeMenuIsDestroyedNativelyWhileItAndItsKeysAreThere)
+{
+    WatchedMenu menu;
+    menu.AppendMenuItem(1, 0, VQ_TEXT("Open\aF1"), VQ_TEXT("open"), 0);
+    menu.SecondTable().AddAccelKey(1, 16, 0x71, 0);
+
+    menu.DeleteAll();
+
+    const char* const whole = "1 with 1:16+112 and 1:16+113";
+    EXPECT_THAT(menu.m_watcher->m_moments, ElementsAre(whole, whole));
 }
 
 TEST_F(CVqAbstractMenuDeleting, DeleteIdOfASeparatorTellsTheBackEndOnce)
@@ -333,6 +361,7 @@ TEST_F(CVqAbstractMenuDeleting, DeleteAllFreesSiblingsOfTheRoot)
     m_menu.DeleteAll();
 
     EXPECT_EQ(m_menu.Root()->nextItem(), nullptr);
+    EXPECT_THAT(m_menu.TakeCalls(), testing::Contains("DestroyItem 50"));
 }
 
 TEST_F(CVqAbstractMenuDeleting, MenuCanBeFilledAgainAfterDeleteAll)

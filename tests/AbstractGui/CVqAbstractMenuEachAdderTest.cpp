@@ -1,4 +1,5 @@
 #include "tests/AbstractGui/MenuAddersFixture.h"
+#include "tests/support/CaptureMessages.h"
 
 #include <gmock/gmock.h>
 
@@ -252,6 +253,18 @@ TEST_P(CVqAbstractMenuSilentAdder, InsertBeforeUnderAMissingParentLeavesAnUnatta
     EXPECT_EQ(m_menu.Tree(), "1(2 3) 9");
     EXPECT_EQ(m_keeping.LooseItems(m_menu).size(), 1u);
     EXPECT_THAT(calls_without_handles(), ElementsAre("InsertItem parent null, position null, item 50 = 0"));
+}
+
+TEST_P(CVqAbstractMenuSilentAdder, InsertAfterUnderAMissingParentIsReportedForASeparatorOnly)
+{
+    const CaptureMessages debug(QtDebugMsg);
+    const bool is_separator = GetParam().m_type == Menu::SenseSeparator;
+
+    EXPECT_EQ(GetParam().m_after(m_menu, unknown, 2), is_separator ? -6 : 0);
+
+    EXPECT_EQ(debug.Texts().size(), is_separator ? 1 : 0);
+    EXPECT_EQ(m_menu.Tree(), "1(2 3) 9");
+    EXPECT_EQ(m_keeping.LooseItems(m_menu).size(), is_separator ? 0u : 1u);
 }
 
 TEST_P(CVqAbstractMenuSilentAdder, InsertOutOfMemoryTellsTheBackEndOfANullItem)

@@ -1,10 +1,12 @@
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "tests/AbstractGui/AccelTables.h"
 #include "tests/support/TestMenu.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
+#include <vector>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -111,6 +113,31 @@ TEST_F(CVqAbstractMenuStatus, EnableOfAnUnknownIdIsRefused)
 {
     EXPECT_EQ(m_menu.EnableId(unknown, true), -13);
     EXPECT_THAT(m_menu.TakeCalls(), IsEmpty());
+}
+
+TEST_F(CVqAbstractMenuStatus, EnableMarksTheKeysOfTheIdInBothTables)
+{
+    m_menu.SecondTable().AddAccelKey(2, 16, 0x70, 0);
+    m_menu.SecondTable().AddAccelKey(9, 16, 0x71, 0);
+
+    m_menu.EnableId(2, false);
+    EXPECT_EQ(marks_of(m_menu.MainTable()), (std::vector<bool>{false, true}));
+    EXPECT_EQ(marks_of(m_menu.SecondTable()), (std::vector<bool>{false, true}));
+
+    m_menu.EnableId(2, true);
+    EXPECT_EQ(marks_of(m_menu.MainTable()), (std::vector<bool>{true, true}));
+    EXPECT_EQ(marks_of(m_menu.SecondTable()), (std::vector<bool>{true, true}));
+}
+
+TEST_F(CVqAbstractMenuStatus, EnableMarksTheKeysOfAnIdThatTheTreeDoesNotHold)
+{
+    m_menu.SecondTable().AddAccelKey(unknown, 16, 0x70, 0);
+
+    EXPECT_EQ(m_menu.EnableId(9, false), -13);
+    EXPECT_EQ(m_menu.EnableId(unknown, false), -13);
+
+    EXPECT_EQ(marks_of(m_menu.MainTable()), (std::vector<bool>{true, false}));
+    EXPECT_EQ(marks_of(m_menu.SecondTable()), std::vector<bool>{false});
 }
 
 TEST_F(CVqAbstractMenuStatus, DisabledKeyOfALonelyAccelStillTranslates)

@@ -213,6 +213,7 @@ TEST_F(CVqAbstractMenuItems, UserParamOfAnUnknownIdIsRefused)
     void* param = &m_menu;
 
     EXPECT_EQ(m_menu.GetUserParam(unknown, &param), -13);
+    EXPECT_EQ(m_menu.GetUserParam(unknown, nullptr), -13);
     EXPECT_EQ(m_menu.SetUserParam(unknown, nullptr), -13);
 
     EXPECT_EQ(param, &m_menu);

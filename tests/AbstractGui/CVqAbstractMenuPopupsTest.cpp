@@ -292,6 +292,17 @@ TEST_F(CVqAbstractMenuHiddenPopup, SeparatorsAreTidiedEvenWhenNothingIsHidden)
     EXPECT_EQ(m_menu.Tree(), "100 12300(1 2 3 4-) 200(5)");
 }
 
+TEST_F(CVqAbstractMenuHiddenPopup, SeparatorsAreTidiedFromThePopupOnAmongItsSiblingsToo)
+{
+    m_menu.AppendSeparator(300, 0);
+    m_menu.InsertSeparatorBefore(50, 0, 100);
+    m_menu.Item(50)->setRemoved(false);
+
+    EXPECT_EQ(m_menu.RemoveHiddenInPopup(12300, VQ_TEXT("HiddenPopup")), 0);
+
+    EXPECT_EQ(m_menu.Tree(), "50 100 12300(1* 2- 3 4-) 200*(5*) 300-");
+}
+
 TEST_F(CVqAbstractMenuHiddenPopup, NullNameHidesNothing)
 {
     EXPECT_EQ(m_menu.RemoveHiddenInPopup(12300, nullptr), 0);

@@ -6,65 +6,20 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <memory>
-#include <new>
+#include <utility>
 
 using testing::ElementsAre;
 
 namespace {
 
-/// A place for a menu whose destructor does not run by itself, as one of two that share their content.
-template <class Menu>
-class Undying
+/// Is never content with what it is told.
+class GrumblingMenuBase : public RecordingMenuBase
 {
 public:
-    template <class... Arguments>
-    explicit Undying(Arguments&&... arguments)
-        : m_menu(new(m_place) Menu(std::forward<Arguments>(arguments)...))
-    { }
-
-    Menu& operator*() { return *m_menu; }
-    Menu* operator->() { return m_menu; }
-    void Die() { m_menu->~Menu(); }
-
-private:
-    alignas(Menu) unsigned char m_place[sizeof(Menu)];
-    Menu* m_menu;
-};
-
-/// Counts what it frees; says that every copy succeeded when told so.
-class CountingManipulators final : public CVqAbstractMenu::SVqManipulators
-{
-public:
-    void freeMenuItem(CVqMenuItem* item) override
+    int EnterMenu(vq_wchar character) override
     {
-        ++m_freed;
-        SVqManipulators::freeMenuItem(item);
-    }
-
-    int copy_items_tree(CVqMenuItem* destination, CVqMenuItem* source) override
-    {
-        return m_copies_succeed ? 0 : SVqManipulators::copy_items_tree(destination, source);
-    }
-
-    int m_freed = 0;
-    bool m_copies_succeed = false;
-};
-
-/// What a concrete menu has to do for a copy: it brings the root.
-class DuplicatingMenu : public TestMenu
-{
-public:
-    using TestMenu::TestMenu;
-
-    CVqAbstractMenu* Duplicate() override
-    {
-        auto copy = std::make_unique<DuplicatingMenu>(BackEnd::None);
-        if (Manipulators().copy_items_tree(copy->Root(), Root()) != 0)
-            return nullptr;
-        copy->MenuBase() = MenuBase()->Duplicate();
-        copy->Native() = Native();
-        return copy.release();
+        RecordingMenuBase::EnterMenu(character);
+        return -77;
     }
 };
 
@@ -94,195 +49,6 @@ public:
     std::pair<bool, bool> m_flags;
 };
 
-}
-
-// Life ----------------------------------------------------------------------------------------------------
-
-TEST(CVqAbstractMenu, NewMenuIsEmpty)
-{
-    Undying<CVqAbstractMenu> menu;
-
-    EXPECT_EQ(menu->getRootMenuItem(), nullptr);
-    EXPECT_EQ(menu->EnterMenu(0), -12);
-    EXPECT_EQ(menu->DeleteAllLonelyAccels(), -9);
-    menu.Die();
-}
-
-TEST(CVqAbstractMenu, NewMenuHasEmptyTablesWithTranslationOn)
-{
-    TestMenu menu;
-
-    menu.MainTable().AddAccelKey(1, 18, 0x41, 0);
-    menu.SecondTable().AddAccelKey(2, 18, 0x42, 0);
-
-    vq_uint64 target = 0;
-    vq_uint32 id = 0;
-    EXPECT_EQ(menu.MainTable().GetAccelsCount(), 1u);
-    EXPECT_EQ(menu.SecondTable().GetAccelsCount(), 1u);
-    EXPECT_TRUE(menu.MainTable().Translate(0x41, 2, target, id));
-    EXPECT_TRUE(menu.SecondTable().Translate(0x42, 2, target, id));
-}
-
-TEST(CVqAbstractMenu, NewMenuHasNativeValueZeroAndNoFixedLeftColumn)
-{
-    TestMenu menu;
-
-    EXPECT_EQ(menu.Native(), 0u);
-    EXPECT_FALSE(menu.HasFixedLeftColumnWidth());
-}
-
-TEST(CVqAbstractMenu, DestructorDeletesTheBackEndFirst)
-{
-    auto menu = std::make_unique<TestMenu>();
-    const auto calls = menu->Recorder().Calls();
-    menu->AppendPopup(1, 0, VQ_TEXT("File"));
-    calls->clear();
-
-    menu.reset();
-
-    EXPECT_THAT(*calls, ElementsAre("Delete"));
-}
-
-TEST(CVqAbstractMenu, DestructorFreesTreeSiblingsOfTheRootAndLonelyAccels)
-{
-    class CountedItem : public CVqMenuItem
-    {
-    public:
-        explicit CountedItem(int& alive) : m_alive(alive) { ++m_alive; }
-        ~CountedItem() override { --m_alive; }
-
-    private:
-        int& m_alive;
-    };
-    int alive = 0;
-
-    {
-        TestMenu menu;
-        menu.Root()->setSubItem(new CountedItem(alive));
-        menu.Root()->setNextItem(new CountedItem(alive));
-        menu.LonelyAccels() = new CountedItem(alive);
-        menu.LonelyAccels()->setNextItem(new CountedItem(alive));
-        EXPECT_EQ(alive, 4);
-    }
-
-    EXPECT_EQ(alive, 0);
-}
-
-TEST(CVqAbstractMenu, DestructorFreesWithTheProcessWideManipulators)
-{
-    CountingManipulators counting;
-
-    {
-        TestMenu menu;
-        menu.SetManipulators(&counting);
-        menu.AppendPopup(1, 0, VQ_TEXT("File"));
-    }
-
-    EXPECT_EQ(counting.m_freed, 0);
-}
-
-TEST(CVqAbstractMenu, CopyConstructorSharesEverything)
-{
-    Undying<TestMenu> menu;
-    menu->AppendMenuItem(1, 0, VQ_TEXT("Open\aCtrl+O"), VQ_TEXT("open"), 0);
-    menu->AppendLonelyAccel(9, 18, 0x4C, VQ_TEXT("lonely"));
-    menu->Native() = 77;
-    menu->EnableFixedLeftColumnWidth(true);
-
-    Undying<TestMenu> copy(*menu);
-
-    EXPECT_EQ(copy->Root(), menu->Root());
-    EXPECT_EQ(copy->MenuBase(), menu->MenuBase());
-    EXPECT_EQ(copy->LonelyAccels(), menu->LonelyAccels());
-    EXPECT_EQ(copy->Native(), 77u);
-    EXPECT_TRUE(copy->HasFixedLeftColumnWidth());
-    copy->MainTable().AddAccelKey(5, 16, 0x42, 0);
-    EXPECT_EQ(TestMenu::Keys(menu->MainTable()), "1:18+79 9:18+76 5:16+66");
-    copy.Die();
-}
-
-TEST(CVqAbstractMenu, AssignmentSharesEverything)
-{
-    Undying<TestMenu> menu;
-    menu->AppendMenuItem(1, 0, VQ_TEXT("Open\aCtrl+O"), VQ_TEXT("open"), 0);
-    menu->SecondTable().AddAccelKey(1, 16, 0x70, 0);
-    Undying<CVqAbstractMenu> target;
-    Undying<CVqAbstractMenu> former(*target);
-
-    *target = *menu;
-
-    EXPECT_EQ(target->getRootMenuItem(), menu->Root());
-    CVqAccelerators all;
-    target->CopyAccelsTo(all);
-    EXPECT_EQ(TestMenu::Keys(all), "1:16+112 1:18+79");
-    target.Die();
-    former.Die();
-}
-
-// Duplicate -----------------------------------------------------------------------------------------------
-
-TEST(CVqAbstractMenu, DuplicateOfAFreshAbstractMenuIsNull)
-{
-    CVqAbstractMenu menu;
-
-    EXPECT_EQ(menu.Duplicate(), nullptr);
-}
-
-TEST(CVqAbstractMenu, DuplicateIsNullAlsoWithARootSinceTheCopyHasNone)
-{
-    TestMenu menu;
-    menu.AppendPopup(1, 0, VQ_TEXT("File"));
-
-    EXPECT_EQ(menu.CVqAbstractMenu::Duplicate(), nullptr);
-    EXPECT_THAT(menu.TakeCalls(), testing::Not(testing::Contains("Duplicate")));
-}
-
-TEST(CVqAbstractMenu, DuplicateTakesBackEndAndNativeValueOnceTheTreeIsCopied)
-{
-    CountingManipulators manipulators;
-    manipulators.m_copies_succeed = true;
-    TestMenu menu;
-    menu.SetManipulators(&manipulators);
-    menu.TakeCalls();
-
-    const std::unique_ptr<CVqAbstractMenu> copy(menu.Duplicate());
-
-    ASSERT_NE(copy, nullptr);
-    EXPECT_THAT(menu.TakeCalls(), ElementsAre("Duplicate"));
-    EXPECT_EQ(copy->EnterMenu(5), 0);
-    EXPECT_THAT(menu.TakeCalls(), ElementsAre("EnterMenu 5"));
-    EXPECT_EQ(copy->getRootMenuItem(), nullptr);
-}
-
-TEST(CVqAbstractMenu, DuplicateWithoutBackEndGivesAMenuWithoutOne)
-{
-    CountingManipulators manipulators;
-    manipulators.m_copies_succeed = true;
-    TestMenu menu(TestMenu::BackEnd::None);
-    menu.SetManipulators(&manipulators);
-
-    const std::unique_ptr<CVqAbstractMenu> copy(menu.Duplicate());
-
-    ASSERT_NE(copy, nullptr);
-    EXPECT_EQ(copy->EnterMenu(5), -12);
-}
-
-TEST(CVqAbstractMenu, ConcreteOverrideOfDuplicateCopiesTheTreeAndNoKeys)
-{
-    DuplicatingMenu menu;
-    menu.AppendPopup(1, 0, VQ_TEXT("&File"));
-    menu.AppendMenuItem(2, 1, VQ_TEXT("&Open\aCtrl+O"), VQ_TEXT("open"), 0);
-    menu.AppendLonelyAccel(9, 18, 0x4C, VQ_TEXT("lonely"));
-
-    const std::unique_ptr<CVqAbstractMenu> copy(menu.Duplicate());
-
-    ASSERT_NE(copy, nullptr);
-    auto& duplicate = static_cast<DuplicatingMenu&>(*copy);
-    EXPECT_EQ(duplicate.Tree(), "1(2)");
-    EXPECT_EQ(duplicate.Text(2), "&Open|Ctrl+O");
-    EXPECT_NE(duplicate.Item(2), menu.Item(2));
-    EXPECT_EQ(TestMenu::Keys(duplicate.MainTable()), "");
-    EXPECT_EQ(duplicate.LonelyAccels(), nullptr);
 }
 
 // Stubs ---------------------------------------------------------------------------------------------------
@@ -356,6 +122,14 @@ TEST(CVqAbstractMenu, EnterMenuForwardsTheCharacter)
     EXPECT_EQ(menu.EnterMenu(VQ_TEXT('f')), 0);
 
     EXPECT_THAT(menu.TakeCalls(), ElementsAre("EnterMenu 102"));
+}
+
+TEST(CVqAbstractMenu, EnterMenuGivesZeroWhateverTheBackEndSays)
+{
+    TestMenu menu(TestMenu::BackEnd::None);
+    menu.MenuBase() = new GrumblingMenuBase;
+
+    EXPECT_EQ(menu.EnterMenu(VQ_TEXT('f')), 0);
 }
 
 TEST(CVqAbstractMenu, EnableFixedLeftColumnWidthIsStored)

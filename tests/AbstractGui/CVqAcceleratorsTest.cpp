@@ -1,6 +1,5 @@
 #include "AbstractGui/CVqAccelerators.h"
 
-#include "AbstractGui/CVqAccelRecords.h"
 #include "tests/AbstractGui/AccelTables.h"
 
 #include <gtest/gtest.h>
@@ -18,21 +17,6 @@ int index_by_id(const CVqAccelerators& table, vq_uint32 id, int index)
     const int result = table.GetAccelIndexById(id, index);
     EXPECT_EQ(index, before);
     return result;
-}
-
-// The array of a table, which is its first member.
-const CVqAccelRecords& records_of(const CVqAccelerators& table)
-{
-    static_assert(std::is_standard_layout_v<CVqAccelerators>);
-    return **reinterpret_cast<const CVqAccelRecords* const*>(&table);
-}
-
-std::vector<bool> marks_of(const CVqAccelerators& table)
-{
-    std::vector<bool> marks;
-    for (int at = 0; at < records_of(table).GetCount(); ++at)
-        marks.push_back(records_of(table).At(at).enabled);
-    return marks;
 }
 
 }

@@ -52,7 +52,7 @@ protected:
 
     ~CVqAbstractMenuAdders() override { m_keeping.LooseItems(m_menu); }
 
-    /// The line of the back end for `new_id`, with a popup's handle in front of it.
+    /// What the back end was told, without the handles that it made for popups.
     std::vector<std::string> calls_without_handles()
     {
         std::vector<std::string> lines = m_menu.TakeCalls();

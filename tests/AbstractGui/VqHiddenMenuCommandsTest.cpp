@@ -138,7 +138,7 @@ TEST(VqHiddenMenuCommands, FileOpenOfMainHasTheKeyMainAtFileOpen)
 {
     set_hidden(VQ_TEXT("Main"), VQ_TEXT("_File Open(1);"));
 
-    // A name of its own cannot make this key, so the whole of it is compared.
+    // The store cannot be read; what shows of the key is which other texts make it too.
     EXPECT_TRUE(hidden(VQ_TEXT("Main"), VQ_TEXT("File_Open")));
     EXPECT_FALSE(hidden(VQ_TEXT("Main"), VQ_TEXT("FileOpen")));
     EXPECT_FALSE(hidden(VQ_TEXT("Main"), VQ_TEXT("File_Open1")));
