@@ -1,5 +1,6 @@
 #pragma once
 
+#include "AbstractGui/VqAccelFlags.h"
 #include "arbor_qml_support_export.h"
 #include "system/VqText.h"
 #include "system/VqTypes.h"
@@ -24,7 +25,7 @@ class CVqAccelRecords;
 ///     keys.AddAccelKey(40, VQ_TEXT("Ctrl+Shift+S"), 0);
 ///     vq_uint64 target = 0;
 ///     vq_uint32 id = 0;
-///     keys.Translate(VQ_TEXT('S'), 2 | 4, target, id); // true, id is 40
+///     keys.Translate(VQ_TEXT('S'), vq_accel_ctrl | vq_accel_shift, target, id); // true, id is 40
 class ARBOR_QML_SUPPORT_EXPORT CVqAccelerators
 {
 public:
@@ -36,7 +37,7 @@ public:
 
     /// Both copies are shallow on purpose: afterwards both tables hold the same records, what one adds the
     /// other sees, and each destructor would free them. The records that the left side held are not freed.
-    /// AddAllFrom() makes a copy that stands alone. (ShallowCopySharesTheRecords)
+    /// AddAllFrom() makes a copy that stands alone. (Held by the test ShallowCopySharesTheRecords.)
     CVqAccelerators(const CVqAccelerators& other) = default;
     CVqAccelerators& operator=(const CVqAccelerators& other);
 
@@ -50,9 +51,10 @@ public:
     /// One key text adds one record. A list with commas does not add its later keys: at each comma, and at
     /// the end, as many units as have passed since the last success are read, but always from the very start
     /// of `text`. "Ctrl+A,Ctrl+B" adds Ctrl+A twice; "Ctrl+Shift+Z, Ctrl+Y" adds Ctrl+Shift+Z and Ctrl+S
-    /// (EachPassOfAListReadsFromTheStart). Add further keys with flags and key instead.
+    /// (held by the test EachPassOfAListReadsFromTheStart). Add further keys with flags and key instead.
     ///
-    /// A stretch of 512 units or more ends the process.
+    /// 512 units or more since the last success end the process with std::abort(): check the length of texts
+    /// that come from outside.
     int AddAccelKey(vq_uint32 id, const vq_wchar* text, vq_uint64 target);
 
     /// Appends every record of `other` in its order, and returns 0. `other` may be this table.
@@ -61,7 +63,7 @@ public:
     // Switching --------------------------------------------------------------------------------------
 
     /// Marks every record with `id`; returns 0, also when there is none. The mark is kept for readers only:
-    /// a record that is switched off still translates (DisabledRecordStillTranslates).
+    /// a record that is switched off still translates (held by the test DisabledRecordStillTranslates).
     int EnableAccelKey(vq_uint32 id, bool enable);
 
     /// Turns Translate() of this table on or off; returns 0.
@@ -135,7 +137,7 @@ public:
     /// The word is cut at "+". A piece that begins with a modifier's name is that modifier; the first other
     /// piece is the key: the first name of the list that stands anywhere in it ("escape" is Esc, "pgup" is
     /// Up), else its first unit, a letter or a digit ("zebra" is Z). "+", "[" and "]" are keys only as the
-    /// whole word. (ParsedTexts)
+    /// whole word. (The rows of the test ParsedTexts show more.)
     ///
     /// Returns false, and stores nothing, when the word names no key or `text` has 512 units or more. One key
     /// text holds one key. Not every text that PrintAccel() writes reads back: "Ctrl++" and "," do not.

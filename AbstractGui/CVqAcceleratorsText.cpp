@@ -1,5 +1,5 @@
 #include "AbstractGui/CVqAccelerators.h"
-#include "AbstractGui/SVqAccelRecord.h"
+#include "AbstractGui/VqAccelFlags.h"
 #include "AbstractGui/VqAccelParse.h"
 #include "AbstractGui/VqAccelPrint.h"
 

@@ -1,4 +1,5 @@
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "AbstractGui/VqAccelFlags.h"
 #include "AbstractGui/VqAccelPrint.h"
 
 #include <string>
@@ -10,7 +11,6 @@ using Text = std::basic_string<vq_wchar>;
 using View = std::basic_string_view<vq_wchar>;
 
 constexpr vq_wchar bell = VQ_TEXT('\a'); // parts label and key text
-constexpr vq_wchar no_key = 0xFFFF;
 
 View label_of(View text)
 {
@@ -69,7 +69,7 @@ void CVqAbstractMenu::SVqManipulators::set_accel(CVqAccelerators* accelerators, 
     if (accelerators->GetAccelKey(id, index, &flags, &key) != 0)
         return;
     Text key_text;
-    if (key < no_key)
+    if (key != vq_accel_no_key)
         VqPrintAccel(key_text, flags, key);
     text = label_with_key(text.View(), key_text);
 }

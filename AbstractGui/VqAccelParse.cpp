@@ -1,6 +1,6 @@
 #include "AbstractGui/VqAccelParse.h"
 
-#include "AbstractGui/SVqAccelRecord.h"
+#include "AbstractGui/VqAccelFlags.h"
 #include "AbstractGui/VqAccelTranslation.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "AbstractGui/CVqAccelerators.h"
-#include "AbstractGui/SVqAccelRecord.h"
+#include "AbstractGui/VqAccelFlags.h"
 #include "system/CVqStringW.h"
 #include "system/VqText.h"
 #include "system/VqTypes.h"

@@ -8,6 +8,6 @@ bool assign_user_key(CVqAbstractMenu& menu, vq_uint32 id, vq_uint32 flags, vq_wc
     vq_uint32 holder = 0;
     if (menu.Translate(key, flags, target, holder) && holder != id)
         return false;
-    return menu.AppendIdAccelKey(id, flags | 16, key, true) == 0;
+    return menu.AppendIdAccelKey(id, flags | vq_accel_virtual_key, key, true) == 0;
 }
 // [end]
