@@ -34,7 +34,7 @@ public:
     static int GetImageSource(vq_uint32 index, CVqStringW& file, CVqStringW& resource);
 
     /// Writes the file name of the module that images come from by default into `buffer`, which has room for
-    /// `size` units, the terminator included.
+    /// `size` units, the terminator included. 0 on success.
     static int GetDefaultModuleFileName(vq_wchar* buffer, int size);
 
     /// Puts the name of a debugging build's file in place of `name` where the pool knows one. 0 on success.

@@ -134,7 +134,8 @@ public:
     // Deleting and printing ----------------------------------------------------------------------------
 
     /// Destroys the item with its children and their keys, natively too. A lonely accelerator of that
-    /// identifier goes as well, but -13 tells that the tree holds none; so does identifier 0.
+    /// identifier goes as well, but the result tells of the tree alone: -13 when it holds no such item, and
+    /// for the root, which stays.
     virtual int DeleteId(vq_uint32 id);
 
     /// Writes the item and its subtree, or the whole tree for an unknown identifier, to Qt's debug stream.
@@ -159,13 +160,14 @@ public:
     virtual int SetIdMenuString(vq_uint32 id, const vq_wchar* text);
 
     /// Bits 8 to 15 of `status` name those of the low byte that keep their value; the others take that of the
-    /// low byte.
+    /// low byte. Higher bits of the item go, unless bits 16 and up name them likewise.
     virtual int SetIdStatus(vq_uint32 id, vq_uint32 status);
 
     virtual int SetIdDrawCallback(vq_uint32 id, void* callback);
     virtual int SetIdMeasureCallback(vq_uint32 id, void* callback);
 
-    /// Enables the item, or disables and grays it. The keys of `id` follow, also without an item.
+    /// Enables the item and takes its gray away, or disables and grays it. The keys of `id` in both tables
+    /// are marked likewise, also without an item.
     virtual int EnableId(vq_uint32 id, bool enable);
 
     virtual int CheckId(vq_uint32 id, bool check);
@@ -179,7 +181,7 @@ public:
     /// The client's pointer. The lonely accelerators are asked first.
     virtual int SetUserParam(vq_uint32 id, void* param);
 
-    /// 0 when `param` is null, which stores nothing.
+    /// A null `param` stores nothing and changes no result.
     virtual int GetUserParam(vq_uint32 id, void** param);
 
     // Popups -------------------------------------------------------------------------------------------
@@ -198,15 +200,16 @@ public:
     /// 0 when `id` is a direct child of `popup`; -4 for a missing or empty popup, else -13.
     virtual int FindItemInPopup(vq_uint32 popup, vq_uint32 id);
 
-    /// Identifiers of the direct children whose label is `text`: exactly, or ignoring case, marks, dots and
-    /// repeated blanks. Labels end at BEL or TAB. `count` holds the capacity of `ids` and receives the number
-    /// found. -4 for a missing or empty popup or null `text`, -13 when none matched.
+    /// Identifiers of the direct children whose label is `text`: exactly, or ignoring case, marks, dots,
+    /// repeated blanks and, in the child's label, `$`. Labels end at BEL or TAB. `count` holds the capacity
+    /// of `ids`, at which the search ends, and receives the number found. -4 for a missing or empty popup or
+    /// null `text`, which leaves `count`; -13 when none matched, with 0 in `count`.
     virtual int FindItemInPopup(vq_uint32 popup, const vq_wchar* text, vq_uint32* ids, vq_uint32& count,
                                 bool exact);
 
     /// Identifiers of the items of the whole tree with that menu string, or that command; empty means any.
     /// `type` and `status` are those of SVqFindData. `count` holds the capacity of `ids` and receives the
-    /// number found. -13 when none matched.
+    /// number found. -13 when none matched, with 0 in `count`.
     virtual int FindItems(const vq_wchar* text, vq_uint32 type, vq_uint32 status, vq_uint32* ids,
                           vq_uint32& count);
     virtual int FindItemsByCommand(const vq_wchar* command, vq_uint32 type, vq_uint32 status, vq_uint32* ids,
@@ -225,7 +228,8 @@ public:
     virtual int EnumItems(vq_uint32 id, bool recursive, EnumCallback callback, void* user);
 
     /// Hides the commands that are set as hidden under `name`, in the popup with identifier 12300 and its
-    /// following siblings, whatever `id` is. -4 when that popup is missing or empty.
+    /// following siblings, whatever `id` is, and tidies the separators there. -4 when that popup is missing
+    /// or empty.
     virtual int RemoveHiddenInPopup(vq_uint32 id, const vq_wchar* name);
 
     /// Number of children that are neither deleted nor removed, or -13.
@@ -247,7 +251,7 @@ public:
     virtual int InsertMenuItemAfter(vq_uint32 id, vq_uint32 parentId, vq_uint32 siblingId,
                                     const vq_wchar* text, const vq_wchar* command);
 
-    /// `status` replaces that of a new item unless it is 0.
+    /// A key text counts as above. `status` replaces that of a new item unless it is 0.
     virtual int AppendMenuItem(vq_uint32 id, vq_uint32 parentId, const vq_wchar* text,
                                const vq_wchar* command, vq_uint32 status);
 
@@ -282,13 +286,13 @@ public:
     /// Kept for the back end.
     virtual int EnableFixedLeftColumnWidth(bool enable);
 
-    /// Passed on to the back end; -12 without one.
+    /// Passed on to the back end, whose result is not looked at; -12 without one.
     virtual int EnterMenu(vq_wchar character);
 
     // Lonely accelerators and tables -------------------------------------------------------------------
 
-    /// Binds a key to a command that has no menu entry. A further key for a known `id` is added unless it is
-    /// bound to it already; its command then stays.
+    /// Binds a key to a command that has no menu entry. A known `id` keeps its command, and gets the key
+    /// unless the first record of that combination in the main table is its own.
     virtual int AppendLonelyAccel(vq_uint32 id, vq_uint32 flags, vq_wchar key, const vq_wchar* command);
 
     /// Frees the list, and removes the keys of all but its last item from the main table. -9 when it is
@@ -488,7 +492,8 @@ public:
     virtual void check_seps(CVqMenuItem* first, bool recursive);
 
     /// Sets `deleted` on the items of the chain, and below, whose command is set as hidden under `name`, and
-    /// on popups that have nothing left. Whether something stays; false for null arguments.
+    /// on popups that have nothing left. Whether something of the chain stays; false for a null item and for
+    /// a null or empty name.
     virtual bool remove_hidden(CVqMenuItem* item, const vq_wchar* name);
 
     // Factories: null when allocMenuItem() gives null; what is not named keeps its default -------------
@@ -526,8 +531,8 @@ public:
     /// Removes the keys of `item`, its following siblings and all below from the table.
     virtual void remove_accels(CVqMenuItem* item, CVqAccelerators* accelerators);
 
-    /// With a key text behind a BEL in `text`, that becomes the only key of `id`, and `text` stays. Without,
-    /// the first key of `id` in the table is put behind `text` if there is one.
+    /// With a BEL in `text`, the key text behind it replaces the keys of `id`, and `text` stays. Without, the
+    /// first key of `id` in the table is put behind `text` if there is one.
     virtual void set_accel(CVqAccelerators* accelerators, vq_uint32 id, CVqStringW& text);
 
     // Linking ------------------------------------------------------------------------------------------
@@ -552,7 +557,8 @@ public:
 
     /// Copies `source` to `destination`, which has room for it, with no other mark than that of `mnemonic`
     /// (`&&` stays), and cuts it at the last occurrence of the first delimiter that occurs. Gives the part
-    /// behind it, in `destination`, or null.
+    /// behind it, in `destination`, or null. No delimiters at all cut nothing; the result then points behind
+    /// their terminator and is not to be read.
     virtual const vq_wchar* handle_mnemonics_and_split(vq_wchar* destination, const vq_wchar* source,
                                                        vq_wchar mnemonic, const vq_wchar* delimiters);
 

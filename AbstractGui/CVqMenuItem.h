@@ -69,7 +69,7 @@ public:
     virtual const CVqStringW& command() const { return m_strCommand; }
     virtual void setCommand(const vq_wchar* command);
 
-    /// Width and height of the item's image, 0 by 0 when it is not set.
+    /// Width and height of the item's image in pixels, 0 by 0 when it is not set.
     virtual CVqSizeBase<int> bmpSize() const { return m_sizeBmp; }
     virtual void setBmpSize(const CVqSizeBase<int>& size) { m_sizeBmp = size; }
 
@@ -115,11 +115,12 @@ public:
     virtual vq_uint32 status() const { return m_uiStatus; }
     virtual void setStatus(vq_uint32 status) { m_uiStatus = status; }
 
-    /// The width that a line-width item stands for.
+    /// The width that a line-width item stands for, in a unit of the client's choice.
     virtual vq_uint32 lineWidth() const { return m_uiLineWidth; }
     virtual void setLineWidth(vq_uint32 width) { m_uiLineWidth = width; }
 
-    /// The colours of a one- or two-colour item.
+    /// The colours of a one- or two-colour item; a one-colour item has the first only. The menu just keeps
+    /// the numbers; back ends read red from the lowest byte, then green and blue.
     virtual vq_uint32 col1() const { return m_uiCol1; }
     virtual void setCol1(vq_uint32 colour) { m_uiCol1 = colour; }
     virtual vq_uint32 col2() const { return m_uiCol2; }

@@ -11,7 +11,7 @@
 /// Looks for one letter for each label of a popup such that no two labels share one.
 ///
 /// Goes back on a letter when that leaves a later label without any, but takes no more than StepBudget
-/// steps: a longer search keeps the letters that it holds at that moment.
+/// steps: then, as when no choice serves all, the first of the longest rows of letters so far counts.
 class CVqMnemonicSearch
 {
 public:

@@ -10,7 +10,8 @@ class CVqMenuItem;
 ///
 /// A menu has at most one back end, owns it and deletes it when it dies. All calls come on the GUI thread,
 /// during the operation of the menu that causes them. Items that a call hands over belong to the menu: a back
-/// end may keep an item's pointer until DestroyItem() of that item and must not delete it.
+/// end may keep an item's pointer until DestroyItem() of that item and must not delete it. Only an item that
+/// InsertItem() shows to hang nowhere belongs to nobody.
 ///
 /// The menu never calls the reserved operations. They keep the order of the table for back ends that were
 /// made elsewhere, which may fill them as they need. The destructor stands last for the same reason.
@@ -49,15 +50,18 @@ public:
     /// prepared: `parent` is null when an append or insert named an unknown parent; the item then hangs
     /// nowhere. `position` is null in an insert when parent or sibling was not found; the item then is not
     /// among the children of `parent` either. `item` is null when memory ran out. In all three cases there is
-    /// nothing to show: return a negative code and keep nothing. The parent of a top-level item is the main
-    /// root, of type CVqAbstractMenu::SenseMainRoot. Removed and deleted items are inserted like others.
+    /// nothing to show: return a negative code. The menu forgets an item that hangs nowhere, so a back end
+    /// may take it over and free it in the end; one that does not keeps no pointer to it. The parent of a
+    /// top-level item is the main root, of type CVqAbstractMenu::SenseMainRoot. Removed and deleted items are
+    /// inserted like others.
     virtual int InsertItem(CVqMenuItem* parent, CVqMenuItem* position, CVqMenuItem* item) = 0;
 
     /// The native counterpart of `item` goes away; forget the pointer. Of a tree, children and later siblings
     /// come before the item itself. May name an item that was never inserted, such as the main root.
     virtual void DestroyItem(CVqMenuItem* item) = 0;
 
-    /// The text of `item`, or the mnemonic in it, changed.
+    /// The text of `item` changed, marks included. A mnemonic that changes while the text stays the same is
+    /// not told: a label may carry the mark already that its new mnemonic asks for.
     virtual void UpdateItemText(CVqMenuItem* item) = 0;
 
     virtual void Reserved10();

@@ -7,7 +7,7 @@
 // owner; menus built later read it (CVqAbstractMenu::SVqManipulators::remove_hidden). GUI thread only.
 //
 // Commands that differ only in their arguments are one: what counts is the text up to the first '(' or
-// ';', without a '_' in first position. Blanks and '_' are the same thing, in the owner's name too.
+// ';', without a '_' in first position. In what is left, and in the owner's name, a blank counts as '_'.
 
 /// Hides `command` for the owner `name`, or shows it again. An unknown command is added to the store, with
 /// false too, and stays there.
