@@ -77,7 +77,7 @@ function(arbor_tests name)
     set_target_properties(${name} PROPERTIES ${launcher} ${PROJECT_SOURCE_DIR}/tools/with_display)
     set(environment QT_QPA_PLATFORM=xcb QT_QUICK_BACKEND=rhi)
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")
+  gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")
 endfunction()
 
 # arbor_bench(<name> DEPENDS <targets>...): the benchmark program of <name>.cpp.
@@ -88,6 +88,7 @@ function(arbor_bench name)
   target_link_libraries(${name} PRIVATE benchmark::benchmark ${arg_DEPENDS})
   arbor_flags(${name})
   set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bench)
+  add_dependencies(bench_programs ${name})
 endfunction()
 
 # arbor_fuzz(<name> DEPENDS <targets>...): the libFuzzer program of <name>.cpp. Its test runs the inputs of
