@@ -1,6 +1,8 @@
 #pragma once
 
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "system/CVqLiteVariantR.h"
+#include "system/CVqVariant.h"
 #include "tests/contract/MenuModel.h"
 #include "tests/contract/RandomMenu.h"
 #include "tests/contract/RealMenus.h"
@@ -74,13 +76,13 @@ TYPED_TEST_P(MenuContract, AppendedItemsComeInOrder)
     this->Fill();
 
     EXPECT_EQ(ModelRows(this->Menu()),
-              "1 popup \"File\"\n"
-              "  2 item \"Open\"\n"
+              "1 popup \"&File\"\n"
+              "  2 item \"&Open\"\n"
               "  3 separator \"\"\n"
-              "  4 popup \"Recent\"\n"
-              "    5 item \"one\"\n"
-              "6 popup \"Edit\"\n"
-              "  7 item \"Copy\"\n");
+              "  4 popup \"&Recent\"\n"
+              "    5 item \"&one\"\n"
+              "6 popup \"&Edit\"\n"
+              "  7 item \"&Copy\"\n");
     this->ExpectRowsOfTheModel();
 }
 
@@ -194,6 +196,27 @@ TYPED_TEST_P(MenuContract, AssignedMnemonicsShow)
     this->ExpectRowsOfTheModel();
 }
 
+TYPED_TEST_P(MenuContract, ALoadedMenuHasItsRows)
+{
+    this->Fill();
+    this->Menu().CheckId(2, true);
+    const std::string saved = ModelRows(this->Menu());
+    CVqVariant tree;
+    CVqLiteVariantR stream;
+    this->Menu().Save(tree);
+    this->Menu().Save(stream);
+
+    this->Menu().AppendMenuItem(8, 6, VQ_TEXT("gone with the load"), VQ_TEXT(""), 0);
+    EXPECT_EQ(this->Menu().Load(tree), 0);
+    EXPECT_EQ(ModelRows(this->Menu()), saved);
+    this->ExpectRowsOfTheModel();
+
+    this->Menu().DeleteAll();
+    EXPECT_EQ(this->Menu().Load(stream), 0);
+    EXPECT_EQ(ModelRows(this->Menu()), saved);
+    this->ExpectRowsOfTheModel();
+}
+
 TYPED_TEST_P(MenuContract, ARecreatedPopupHasItsRowsAgain)
 {
     this->Fill();
@@ -269,6 +292,7 @@ REGISTER_TYPED_TEST_SUITE_P(MenuContract, AnEmptyMenuHasNoRows, AppendedItemsCom
                             EveryKindOfItemHasARow, InsertedItemsStandBeforeAndAfterTheirSiblings,
                             AnItemForAMissingParentOrSiblingHasNoRow, AnItemBelowACommandHasNoRow,
                             DeletedItemsTakeTheirRowsAlong, AnEmptiedMenuTakesItemsAgain, TextAndStatusFollow,
-                            RadioItemsFollow, AssignedMnemonicsShow, ARecreatedPopupHasItsRowsAgain,
-                            TenThousandRandomOperationsKeepTheRows, AThousandLevelsHaveTheirRows,
-                            TenThousandSiblingsHaveTheirRows, RealMenusHaveTheirRowsMnemonicsAndKeys);
+                            RadioItemsFollow, AssignedMnemonicsShow, ALoadedMenuHasItsRows,
+                            ARecreatedPopupHasItsRowsAgain, TenThousandRandomOperationsKeepTheRows,
+                            AThousandLevelsHaveTheirRows, TenThousandSiblingsHaveTheirRows,
+                            RealMenusHaveTheirRowsMnemonicsAndKeys);

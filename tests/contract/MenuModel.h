@@ -11,7 +11,7 @@
 ///
 /// As text it is one line, with two blanks a level in front:
 ///
-///     1 popup "File"
+///     1 popup "&File"
 ///       2 item checked grayed "Open"
 struct SMenuRow
 {
@@ -19,13 +19,13 @@ struct SMenuRow
     vq_uint32 type = 0;
     bool checked = false;
     bool grayed = false;
-    std::string label; ///< UTF-8, without marks, `&&` as `&`, up to BEL or TAB.
+    std::string label; ///< UTF-8, up to BEL or TAB, `&&` as `&`, with the one mark that the mnemonic names.
 
     static SMenuRow Of(const CVqMenuItem& item)
     {
         SMenuRow row{item.id(), item.type(), false, false, std::string()};
         row.SetState(item.status());
-        row.SetText(item.text());
+        row.SetText(item.text(), item.mnemonic());
         return row;
     }
 
@@ -35,17 +35,24 @@ struct SMenuRow
         grayed = !(status & CVqMenuItem::StatusEnabled) || (status & CVqMenuItem::StatusGrayed);
     }
 
-    void SetText(const CVqStringW& text)
+    void SetText(const CVqStringW& text, vq_wchar mnemonic)
     {
-        const std::string whole = text.ToQString().toStdString();
-        const std::size_t end = std::min(whole.find_first_of("\a\t"), whole.size());
-        label.clear();
+        const std::u16string whole = text.ToQString().toStdU16String();
+        const std::size_t end = std::min(whole.find_first_of(u"\a\t"), whole.size());
+        std::u16string shown;
+        bool marked = mnemonic == 0;
         for (std::size_t i = 0; i < end; ++i) {
-            if (whole[i] != '&')
-                label += whole[i];
-            else if (i + 1 < end && whole[i + 1] == '&')
-                label += whole[i++];
+            const bool is_mark = whole[i] == u'&' && i + 1 < end;
+            if (whole[i] != u'&') {
+                shown += whole[i];
+            } else if (is_mark && whole[i + 1] == u'&') {
+                shown += whole[i++];
+            } else if (is_mark && !marked && VqLower(vq_wchar(whole[i + 1])) == VqLower(mnemonic)) {
+                shown += u'&';
+                marked = true;
+            }
         }
+        label = QString::fromStdU16String(shown).toStdString();
     }
 
     std::string Line(int level) const

@@ -9,7 +9,8 @@
 #include <vector>
 
 /// A recording back end that builds rows from the calls it gets, and from nothing else: texts and status are
-/// those of the last call about an item. Frees the items that hang nowhere.
+/// those of the last call about an item. Only mnemonics are read when they are shown, since one that changes
+/// under an unchanged text is not told. Frees the items that hang nowhere.
 class MirrorMenuBase final : public RecordingMenuBase
 {
 public:
@@ -47,7 +48,7 @@ public:
     void UpdateItemText(CVqMenuItem* item) override
     {
         if (SRow* row = Find(item))
-            row->shown.SetText(item->text());
+            row->text = item->text();
     }
 
     void UpdateItemState(CVqMenuItem* item) override
@@ -66,10 +67,11 @@ public:
 private:
     struct SRow
     {
-        explicit SRow(const CVqMenuItem& of) : item(&of), shown(SMenuRow::Of(of)) { }
+        explicit SRow(const CVqMenuItem& of) : item(&of), shown(SMenuRow::Of(of)), text(of.text()) { }
 
-        const CVqMenuItem* item; // a key; never looked into
-        SMenuRow shown;
+        const CVqMenuItem* item; // a key, and asked for its mnemonic
+        SMenuRow shown;          // but for the label
+        CVqStringW text;
     };
     using Rows = std::vector<SRow>;
 
@@ -95,7 +97,9 @@ private:
         if (rows == m_rows.end())
             return;
         for (const SRow& row : rows->second) {
-            text += row.shown.Line(level);
+            SMenuRow shown = row.shown;
+            shown.SetText(row.text, row.item->mnemonic());
+            text += shown.Line(level);
             Add(row.item, level + 1, text);
         }
     }

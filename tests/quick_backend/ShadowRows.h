@@ -69,11 +69,14 @@ private:
     {
         std::string Line(int level) const
         {
+            QString label = values.at(CVqQuickMenuRows::LabelRole).toString();
+            const int mnemonic = values.at(CVqQuickMenuRows::MnemonicPositionRole).toInt();
+            if (mnemonic >= 0)
+                label.insert(mnemonic, u'&');
             const SMenuRow row{values.at(CVqQuickMenuRows::ItemIdRole).toUInt(),
                                values.at(CVqQuickMenuRows::KindRole).toUInt(),
                                values.at(CVqQuickMenuRows::CheckedRole).toBool(),
-                               values.at(CVqQuickMenuRows::GrayedRole).toBool(),
-                               values.at(CVqQuickMenuRows::LabelRole).toString().toStdString()};
+                               values.at(CVqQuickMenuRows::GrayedRole).toBool(), label.toStdString()};
             return row.Line(level);
         }
 
