@@ -10,9 +10,9 @@
 
 CVqMenuItem::Membership::Membership(const Membership&) { }
 
-CVqMenuItem::Membership& CVqMenuItem::Membership::operator=(const Membership&)
+CVqMenuItem::Membership& CVqMenuItem::Membership::operator=(const Membership& other)
 {
-    if (chain)
+    if (chain && this != &other)
         chain->Forget();
     return *this;
 }

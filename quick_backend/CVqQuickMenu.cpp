@@ -2,6 +2,7 @@
 
 #include "quick_backend/CVqQuickMenuBackend.h"
 #include "quick_backend/CVqQuickMenuItem.h"
+#include "quick_backend/VqMenuRowData.h"
 
 #include <QMetaMethod>
 #include <QPointer>
@@ -12,11 +13,6 @@
 namespace {
 
 constexpr std::size_t KeyTextRoom = 512;
-
-bool IsUsable(const CVqMenuItem& item)
-{
-    return (item.status() & CVqMenuItem::StatusEnabled) && !(item.status() & CVqMenuItem::StatusGrayed);
-}
 
 void AddKeyTexts(const CVqAccelerators& table, vq_uint32 id, QStringList& texts)
 {
@@ -71,10 +67,10 @@ bool CVqQuickMenu::CanFire(vq_uint32 id)
     const CVqMenuItem* item = Find(id);
     if (!item)
         return true;
-    if (item->removed())
+    if (item == m_pRoot || item->removed())
         return false;
     for (; item && item != m_pRoot; item = item->parentItem()) {
-        if (item->deleted() || !IsUsable(*item))
+        if (item->deleted() || VqIsGrayed(*item))
             return false;
     }
     return true;

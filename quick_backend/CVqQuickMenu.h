@@ -53,7 +53,8 @@ public:
     /// Whether a key or a click may run `id` now. An item that is disabled, grayed, removed or deleted says
     /// no, and so does one below a popup that is disabled, grayed or deleted: what cannot be reached in the
     /// menu cannot be reached by its key. A popup that is only removed lets its items fire: that is how a
-    /// context menu is kept off the bar. An identifier without an item (a lonely accelerator) says yes.
+    /// context menu is kept off the bar. An identifier without an item (a lonely accelerator) says yes, that
+    /// of the main root no.
     bool CanFire(vq_uint32 id);
 
     /// CallCmdHandler() when CanFire() says yes. Whether it was called.
@@ -94,8 +95,8 @@ public:
 
     // The rest of a concrete menu ------------------------------------------------------------------------
 
-    /// A menu with a copy of the tree, rows of its own and the same handler; null when memory runs out. As in
-    /// every copy, keys and lonely accelerators are left out.
+    /// A menu with a copy of the tree, radio dots included, rows of its own and the same handler; null when
+    /// memory runs out. As in every copy, keys and lonely accelerators are left out.
     CVqAbstractMenu* Duplicate() override;
 
     SVqManipulators& Manipulators() override { return m_manipulators; }

@@ -1,10 +1,8 @@
 #include "quick_backend/CVqQuickMenuRows.h"
 
 #include "quick_backend/CVqQuickMenuItem.h"
-#include "quick_backend/IVqQuickMenuKeys.h"
-#include "quick_backend/VqMenuLabel.h"
+#include "quick_backend/VqMenuRowData.h"
 
-#include <QColor>
 #include <QFontMetricsF>
 
 #include <algorithm>
@@ -13,106 +11,6 @@
 namespace {
 
 constexpr std::size_t MeasuredRows = 64;
-
-bool IsShown(const CVqMenuItem& item)
-{
-    return !item.removed() && !item.deleted();
-}
-
-bool IsGrayed(const CVqMenuItem& item)
-{
-    const vq_uint32 status = item.status();
-    return !(status & CVqMenuItem::StatusEnabled) || (status & CVqMenuItem::StatusGrayed);
-}
-
-QColor ToColor(vq_uint32 colour)
-{
-    return QColor(int(colour & 255), int(colour >> 8 & 255), int(colour >> 16 & 255));
-}
-
-SVqMenuLabel LabelOf(const CVqMenuItem& item)
-{
-    return VqMenuLabel(item.text().GetString(), item.mnemonic());
-}
-
-QString MnemonicOf(const CVqMenuItem& item)
-{
-    return item.mnemonic() ? QString(QChar(char16_t(item.mnemonic()))) : QString();
-}
-
-QString AccessibleNameOf(const CVqMenuItem& item)
-{
-    const QString label = LabelOf(item).text;
-    if (!label.isEmpty())
-        return label;
-    switch (item.type()) {
-    case CVqQuickMenuRows::OneColor:
-        return ToColor(item.col1()).name();
-    case CVqQuickMenuRows::TwoColor:
-        return ToColor(item.col1()).name() + QStringLiteral(", ") + ToColor(item.col2()).name();
-    case CVqQuickMenuRows::LineWidth:
-        return QStringLiteral("%1 px").arg(item.lineWidth());
-    default:
-        return label;
-    }
-}
-
-QString KeyTextOf(const CVqMenuItem& item, const IVqQuickMenuKeys* keys)
-{
-    const QString text = keys ? keys->KeyText(item) : QString();
-    return text.isEmpty() ? LabelOf(item).note : text;
-}
-
-QVariant TextData(const CVqMenuItem& item, int role, const IVqQuickMenuKeys* keys)
-{
-    switch (role) {
-    case Qt::DisplayRole:
-    case CVqQuickMenuRows::LabelRole:
-        return LabelOf(item).text;
-    case CVqQuickMenuRows::StyledLabelRole:
-        return LabelOf(item).Styled();
-    case CVqQuickMenuRows::MnemonicRole:
-        return MnemonicOf(item);
-    case CVqQuickMenuRows::MnemonicPositionRole:
-        return LabelOf(item).mnemonic;
-    case CVqQuickMenuRows::KeyTextRole:
-        return KeyTextOf(item, keys);
-    case CVqQuickMenuRows::AccessibleNameRole:
-        return AccessibleNameOf(item);
-    default:
-        return {};
-    }
-}
-
-QVariant FieldData(const CVqQuickMenuItem& item, int role)
-{
-    switch (role) {
-    case CVqQuickMenuRows::ItemIdRole:
-        return uint(item.id());
-    case CVqQuickMenuRows::KindRole:
-        return int(item.type());
-    case CVqQuickMenuRows::CheckedRole:
-        return bool(item.status() & CVqMenuItem::StatusChecked);
-    case CVqQuickMenuRows::RadioRole:
-        return item.radio();
-    case CVqQuickMenuRows::GrayedRole:
-        return IsGrayed(item);
-    case CVqQuickMenuRows::ShownRole:
-        return IsShown(item);
-    case CVqQuickMenuRows::Color1Role:
-        return ToColor(item.col1());
-    case CVqQuickMenuRows::Color2Role:
-        return ToColor(item.col2());
-    case CVqQuickMenuRows::LineWidthRole:
-        return uint(item.lineWidth());
-    case CVqQuickMenuRows::ImageIndexRole:
-        return int(item.enaBmpIndex());
-    case CVqQuickMenuRows::SubmenuRole:
-        return QVariant::fromValue(item.submenu());
-    default:
-        return {};
-    }
-}
 
 bool MovesTheShape(const QList<int>& roles)
 {
@@ -161,9 +59,7 @@ QVariant CVqQuickMenuRows::data(const QModelIndex& index, int role) const
 {
     if (!index.isValid() || index.model() != this || index.row() >= Count())
         return {};
-    const CVqQuickMenuItem& item = *m_items[std::size_t(index.row())];
-    const QVariant text = TextData(item, role, m_keys);
-    return text.isValid() ? text : FieldData(item, role);
+    return VqMenuRowData(*m_items[std::size_t(index.row())], role, m_keys);
 }
 
 QHash<int, QByteArray> CVqQuickMenuRows::roleNames() const
@@ -192,21 +88,21 @@ QHash<int, QByteArray> CVqQuickMenuRows::roleNames() const
 int CVqQuickMenuRows::SeparatorCount() const
 {
     return int(std::count_if(m_items.begin(), m_items.end(), [](const CVqQuickMenuItem* item) {
-        return IsShown(*item) && item->type() == Separator;
+        return VqIsShown(*item) && item->type() == Separator;
     }));
 }
 
 int CVqQuickMenuRows::CommandCount() const
 {
     return int(std::count_if(m_items.begin(), m_items.end(), [](const CVqQuickMenuItem* item) {
-        return IsShown(*item) && item->type() != Separator;
+        return VqIsShown(*item) && item->type() != Separator;
     }));
 }
 
 bool CVqQuickMenuRows::CanBePicked(int row) const
 {
     const CVqQuickMenuItem* item = ItemAt(row);
-    return item && IsShown(*item) && !IsGrayed(*item) && item->type() != Separator;
+    return item && VqIsShown(*item) && !VqIsGrayed(*item) && item->type() != Separator;
 }
 
 int CVqQuickMenuRows::next(int from, int step) const
@@ -266,10 +162,10 @@ QSizeF CVqQuickMenuRows::textColumns(const QFont& font) const
     QStringList labels;
     QStringList keys;
     for (const CVqQuickMenuItem* item : m_items) {
-        if (!IsShown(*item))
+        if (!VqIsShown(*item))
             continue;
-        labels += LabelOf(*item).text;
-        keys += KeyTextOf(*item, m_keys);
+        labels += VqMenuRowLabel(*item);
+        keys += VqMenuRowKeyText(*item, m_keys);
     }
     const QFontMetricsF metrics(font);
     return {Widest(labels, metrics), Widest(keys, metrics)};

@@ -30,20 +30,27 @@ void CVqQuickPressGuard::watch(QQuickItem* item)
 {
     if (!item || std::find(m_items.begin(), m_items.end(), item) != m_items.end())
         return;
+    Forget(nullptr);
     m_items.emplace_back(item);
     FollowWindow();
 }
 
 void CVqQuickPressGuard::unwatch(QQuickItem* item)
 {
+    Forget(item);
+    FollowWindow();
+}
+
+// And those that died.
+void CVqQuickPressGuard::Forget(const QQuickItem* item)
+{
     std::erase_if(m_items,
                   [item](const QPointer<QQuickItem>& watched) { return !watched || watched == item; });
-    FollowWindow();
 }
 
 void CVqQuickPressGuard::FollowWindow()
 {
-    QQuickWindow* window = m_items.empty() || !m_items.front() ? nullptr : m_items.front()->window();
+    QQuickWindow* window = m_items.empty() ? nullptr : m_items.front()->window();
     if (window == m_window)
         return;
     if (m_window)

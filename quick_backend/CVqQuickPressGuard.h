@@ -38,6 +38,7 @@ Q_SIGNALS:
 
 private:
     ARBOR_QUICK_BACKEND_NO_EXPORT bool IsInside(const QPointF& scene_position) const;
+    ARBOR_QUICK_BACKEND_NO_EXPORT void Forget(const QQuickItem* item);
     ARBOR_QUICK_BACKEND_NO_EXPORT void FollowWindow();
 
     std::vector<QPointer<QQuickItem>> m_items;

@@ -64,6 +64,11 @@ Item {
         mirrored: context.LayoutMirroring.enabled
         onDismissed: context.leave()
         onBackedOut: context.leave()
+        onDragged: place => popup.dragTo(place)
+        onDropped: place => {
+            if (!popup.drop(place))
+                context.leave();
+        }
         onPicked: itemId => {
             context.leave();
             context.menu.trigger(itemId);

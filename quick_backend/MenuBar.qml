@@ -53,6 +53,8 @@ T.Pane {
             return shared.picked(menu.rows.idAt(row));
         select(row);
         popup.show(items.itemAt(row), submenu, byKeyboard);
+        if (!popup.visible)
+            select(row);
     }
 
     /// Puts everything away and gives the focus back.
@@ -118,6 +120,21 @@ T.Pane {
             select(row);
     }
 
+    function dragTo(place: point): void {
+        if (popup.dragTo(place))
+            return;
+        const inside = flow.mapFromItem(null, place);
+        const under = flow.childAt(inside.x, inside.y) as MenuBarItem;
+        if (under?.enabled)
+            point(under.index);
+    }
+
+    // Let go over the bar a popup stays open, as after a click; elsewhere it goes.
+    function drop(place: point): void {
+        if (!popup.drop(place) && !bar.contains(bar.mapFromItem(null, place)))
+            leave();
+    }
+
     function pickLetter(letter: string): void {
         const row = menu.rows.byMnemonic(letter, internal.currentIndex);
         if (row < 0)
@@ -166,6 +183,7 @@ T.Pane {
 
     Accessible.role: Accessible.MenuBar
     Keys.onPressed: event => handleKey(event)
+    Keys.onShortcutOverride: event => event.accepted = internal.active
     onMenuChanged: leave()
 
     background: Rectangle {
@@ -196,6 +214,8 @@ T.Pane {
                 font: bar.font
                 onPointedAt: bar.point(index)
                 onPressed: bar.press(index)
+                onDraggedTo: place => bar.dragTo(place)
+                onDroppedAt: place => bar.drop(place)
             }
         }
     }
@@ -224,6 +244,19 @@ T.Pane {
         }
     }
 
+    // Rows are known by their place, so a bar that changes puts everything away.
+    Connections {
+        target: bar.menu ? bar.menu.rows : null
+
+        function onRowsInserted(): void {
+            bar.leave();
+        }
+
+        function onRowsRemoved(): void {
+            bar.leave();
+        }
+    }
+
     MenuSession {
         id: shared
 
@@ -231,6 +264,8 @@ T.Pane {
         mirrored: bar.mirrored
         onDismissed: bar.leave()
         onStepped: direction => bar.step(direction)
+        onDragged: place => bar.dragTo(place)
+        onDropped: place => bar.drop(place)
         onBackedOut: {
             popup.close();
             bar.select(bar.currentIndex);

@@ -22,6 +22,10 @@ T.Control {
     signal pointedAt
     signal pressed
 
+    /// The pointer pressed the item, moved out of it, and was let go there; places of the window.
+    signal draggedTo(place: point)
+    signal droppedAt(place: point)
+
     objectName: "menuBarItem" + index
     visible: shown
     enabled: !grayed && !isSeparator
@@ -68,9 +72,17 @@ T.Control {
         anchors.fill: parent
         hoverEnabled: true
         onPositionChanged: mouse => {
-            if (item.session.pointerMoved(this, mouse.x, mouse.y))
+            if (!item.session.pointerMoved(this, mouse.x, mouse.y))
+                return;
+            if (containsMouse)
                 item.pointedAt();
+            else
+                item.draggedTo(mapToItem(null, mouse.x, mouse.y));
         }
         onPressed: item.pressed()
+        onReleased: mouse => {
+            if (!containsMouse)
+                item.droppedAt(mapToItem(null, mouse.x, mouse.y));
+        }
     }
 }

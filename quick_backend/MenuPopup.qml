@@ -16,6 +16,9 @@ T.Popup {
     /// What is shown; null while closed, so that a closed popup follows no model.
     property QuickMenuRows rows: null
 
+    /// What screen readers call it: the name of what it opened from.
+    readonly property string title: (parent as MenuRow)?.accessibleName ?? (parent as MenuBarItem)?.accessibleName ?? ""
+
     property alias currentIndex: list.currentIndex
 
     readonly property real rowHeight: Math.ceil(metrics.height) + 10
@@ -25,6 +28,7 @@ T.Popup {
 
     property MenuPopup child: null
     property size columns: Qt.size(0, 0)
+    readonly property real scrollBarWidth: implicitHeight > height ? scrollBar.implicitWidth : 0
     readonly property real besideText: 2 * 6 + 16 + (session.imageSource !== "" ? 22 : 0) + 8 + 4 + 16
 
     objectName: "menuPopup"
@@ -32,14 +36,15 @@ T.Popup {
     margins: edge
     padding: edge
     closePolicy: T.Popup.NoAutoClose
-    implicitWidth: Math.max(160, besideText + columns.width + (columns.height > 0 ? 28 + columns.height : 0)) + 2 * edge
+    implicitWidth: Math.max(160, besideText + columns.width + (columns.height > 0 ? 28 + columns.height : 0))
+        + scrollBarWidth + 2 * edge
     implicitHeight: list.implicitHeight + 2 * edge
     height: parent ? Math.min(implicitHeight, parent.Window.height - 2 * edge) : implicitHeight
 
     /// Opens below or beside `anchor`. With `byKeyboard` the first row that can be picked is current.
     function show(anchor: Item, shownRows: QuickMenuRows, byKeyboard: bool): void {
         if (!anchor || !shownRows || shownRows.commandCount === 0)
-            return;
+            return close();
         if (child)
             child.close();
         rows = shownRows;
@@ -80,7 +85,9 @@ T.Popup {
         if (!child)
             child = Qt.createComponent("MenuPopup.qml").createObject(popup.contentItem, {
                 session: popup.session,
-                parentPopup: popup
+                parentPopup: popup,
+                font: Qt.binding(() => popup.font),
+                palette: Qt.binding(() => popup.palette)
             });
         child.show(list.itemAtIndex(row), rows.submenuAt(row), byKeyboard);
     }
@@ -99,6 +106,37 @@ T.Popup {
             return;
         list.currentIndex = row;
         hoverTimer.restart();
+    }
+
+    function covers(place: point): bool {
+        return visible && background.contains(background.mapFromItem(null, place));
+    }
+
+    // The row at a place of the window that can be picked, or -1.
+    function rowAt(place: point): int {
+        const inside = list.contentItem.mapFromItem(null, place);
+        const row = list.indexAt(inside.x, inside.y);
+        return row >= 0 && rows.next(row - 1, 1) === row ? row : -1;
+    }
+
+    /// The pointer moved with its button held; gives whether it is over this popup or one below it.
+    function dragTo(place: point): bool {
+        if (child && child.dragTo(place))
+            return true;
+        const row = covers(place) ? rowAt(place) : -1;
+        if (row >= 0)
+            point(row);
+        return covers(place);
+    }
+
+    /// The button was let go; gives whether that was over this popup or one below it.
+    function drop(place: point): bool {
+        if (child && child.drop(place))
+            return true;
+        const inside = covers(place);
+        if (inside)
+            pick(rowAt(place), false);
+        return inside;
     }
 
     function move(step: int): void {
@@ -224,29 +262,9 @@ T.Popup {
         }
     }
 
-    background: Rectangle {
-        radius: 6
+    background: MenuPanel {
         color: popup.palette.base
-        border.color: Qt.alpha(popup.palette.text, 0.22)
-
-        Accessible.role: Accessible.PopupMenu
-
-        Repeater {
-            model: 5
-
-            Rectangle {
-                required property int index
-
-                z: -1
-                anchors.fill: parent
-                anchors.margins: -index - 1
-                anchors.topMargin: -index + 1
-                radius: 7 + index
-                color: "transparent"
-                border.width: 1.5
-                border.color: Qt.rgba(0, 0, 0, 0.09 - index * 0.016)
-            }
-        }
+        ink: popup.palette.text
     }
 
     contentItem: ListView {
@@ -264,17 +282,24 @@ T.Popup {
         highlightMoveDuration: 0
         reuseItems: true
         Keys.onPressed: event => popup.handleKey(event)
+        Keys.onShortcutOverride: event => event.accepted = true
+
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: popup.title
 
         LayoutMirroring.enabled: popup.session.mirrored
         LayoutMirroring.childrenInherit: true
 
         delegate: MenuRow {
+            width: list.width - popup.scrollBarWidth
             session: popup.session
             rowHeight: popup.rowHeight
             separatorHeight: popup.separatorHeight
             font: popup.font
             onPointedAt: popup.point(index)
             onPicked: popup.pick(index, false)
+            onDraggedTo: place => popup.session.dragged(place)
+            onDroppedAt: place => popup.session.dropped(place)
         }
 
         T.ScrollBar.vertical: T.ScrollBar {

@@ -34,6 +34,10 @@ T.Control {
     signal pointedAt
     signal picked
 
+    /// The pointer pressed the row, moved out of it, and was let go there; places of the window.
+    signal draggedTo(place: point)
+    signal droppedAt(place: point)
+
     objectName: "menuRow" + index
     width: ListView.view ? ListView.view.width : 0
     height: !shown ? 0 : isSeparator ? separatorHeight : rowHeight
@@ -98,6 +102,7 @@ T.Control {
 
         MenuSample {
             id: sample
+            objectName: "menuSample"
 
             anchors.left: image.right
             anchors.leftMargin: 8
@@ -149,8 +154,16 @@ T.Control {
         anchors.fill: parent
         hoverEnabled: true
         onPositionChanged: mouse => {
-            if (row.session.pointerMoved(this, mouse.x, mouse.y))
+            if (!row.session.pointerMoved(this, mouse.x, mouse.y))
+                return;
+            if (containsMouse)
                 row.pointedAt();
+            else
+                row.draggedTo(mapToItem(null, mouse.x, mouse.y));
+        }
+        onReleased: mouse => {
+            if (!containsMouse)
+                row.droppedAt(mapToItem(null, mouse.x, mouse.y));
         }
         onClicked: row.picked()
     }

@@ -40,6 +40,11 @@ QtObject {
     /// The first popup was left with Escape.
     signal backedOut
 
+    /// The pointer moved with its button held since it pressed a row or an item of the bar, and the button was
+    /// let go somewhere else; places of the window.
+    signal dragged(place: point)
+    signal dropped(place: point)
+
     /// A command was chosen: put everything away, then run it.
     signal picked(itemId: int)
 }

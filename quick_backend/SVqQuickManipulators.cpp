@@ -47,3 +47,13 @@ CVqMenuItem* SVqQuickManipulators::remove_item(vq_uint32 id, CVqMenuItem* root)
     }
     return removed;
 }
+
+// The base calls this again for each child.
+int SVqQuickManipulators::copy_items_tree(CVqMenuItem* destination, CVqMenuItem* source)
+{
+    auto* copy = dynamic_cast<CVqQuickMenuItem*>(destination);
+    const auto* original = dynamic_cast<const CVqQuickMenuItem*>(source);
+    if (copy && original)
+        copy->setRadio(original->radio());
+    return SVqManipulators::copy_items_tree(destination, source);
+}

@@ -19,6 +19,9 @@ public:
     /// their rows and all below them, so that no row shows an item that the menu no longer has.
     CVqMenuItem* remove_item(vq_uint32 id, CVqMenuItem* root) override;
 
+    /// As the base does, and the copies are radio items where their sources are.
+    int copy_items_tree(CVqMenuItem* destination, CVqMenuItem* source) override;
+
 private:
     IVqMenuBase* m_backend = nullptr;
 };

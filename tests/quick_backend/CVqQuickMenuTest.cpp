@@ -2,8 +2,9 @@
 
 #include "AbstractGui/VqHiddenMenuCommands.h"
 #include "quick_backend/CVqQuickMenuItem.h"
+#include "system/CVqLiteVariantR.h"
+#include "system/CVqVariant.h"
 
-#include <QElapsedTimer>
 #include <QSignalSpy>
 
 #include <gmock/gmock.h>
@@ -136,6 +137,13 @@ TEST_F(CVqQuickMenuTest, AnItemBelowAPopupThatIsOnlyRemovedFires)
     Item(1).setRemoved(true);
 
     EXPECT_TRUE(menu->Dispatch(5));
+}
+
+TEST_F(CVqQuickMenuTest, TheMainRootDoesNotFire)
+{
+    EXPECT_FALSE(menu->Dispatch(0));
+
+    EXPECT_THAT(fired, IsEmpty());
 }
 
 TEST_F(CVqQuickMenuTest, ALonelyAcceleratorFires)
@@ -292,6 +300,59 @@ TEST_F(CVqQuickMenuTest, ADuplicateHasRowsAndAHandlerOfItsOwn)
     EXPECT_THAT(fired, ElementsAre(5u));
 }
 
+TEST_F(CVqQuickMenuTest, ADuplicateKeepsRadioDots)
+{
+    menu->CheckRadioId(2, 2, 3);
+
+    const std::unique_ptr<CVqAbstractMenu> copy(menu->Duplicate());
+
+    const CVqQuickMenuRows& rows = *dynamic_cast<CVqQuickMenu&>(*copy).Rows()->submenuAt(0);
+    EXPECT_TRUE(rows.index(0).data(CVqQuickMenuRows::RadioRole).toBool());
+    EXPECT_TRUE(rows.index(1).data(CVqQuickMenuRows::RadioRole).toBool());
+    EXPECT_FALSE(rows.index(2).data(CVqQuickMenuRows::RadioRole).toBool());
+}
+
+TEST_F(CVqQuickMenuTest, LoadedFromATreeItHasItsRowsAndKeysAgain)
+{
+    CVqVariant saved;
+    menu->Save(saved);
+    menu->DeleteId(1);
+
+    EXPECT_EQ(menu->Load(saved), 0);
+
+    ASSERT_EQ(menu->Rows()->Count(), 1);
+    EXPECT_EQ(menu->Rows()->submenuAt(0)->Count(), 3);
+    EXPECT_EQ(menu->Rows()->submenuAt(0)->submenuAt(2)->idAt(0), 5u);
+    EXPECT_EQ(KeyText(2), QStringLiteral("Ctrl+O"));
+}
+
+TEST_F(CVqQuickMenuTest, LoadedFromAStreamItReplacesRowByRow)
+{
+    CVqLiteVariantR saved;
+    menu->Save(saved);
+    CVqQuickMenuRows* bar = menu->Rows();
+    menu->AppendPopup(9, 0, VQ_TEXT("Later"));
+    QSignalSpy removed(bar, &QAbstractItemModel::rowsRemoved);
+    QSignalSpy inserted(bar, &QAbstractItemModel::rowsInserted);
+
+    EXPECT_EQ(menu->Load(saved), 0);
+
+    EXPECT_EQ(menu->Rows(), bar);
+    EXPECT_EQ(removed.size(), 2);
+    EXPECT_EQ(inserted.size(), 1);
+    EXPECT_EQ(bar->submenuAt(0)->Count(), 3);
+    EXPECT_EQ(KeyText(5), QStringLiteral("F5"));
+}
+
+TEST_F(CVqQuickMenuTest, AnEmptyLoadLeavesNoRows)
+{
+    CVqLiteVariantR nothing;
+
+    EXPECT_EQ(menu->Load(nothing), 0);
+
+    EXPECT_EQ(menu->Rows()->Count(), 0);
+}
+
 TEST_F(CVqQuickMenuTest, OrphansAreTakenOver)
 {
     EXPECT_EQ(menu->AppendMenuItem(70, 999, VQ_TEXT("lost"), VQ_TEXT(""), 0), 0);
@@ -300,21 +361,39 @@ TEST_F(CVqQuickMenuTest, OrphansAreTakenOver)
     EXPECT_EQ(menu->Rows()->Count(), 1);
 }
 
-TEST(CVqQuickMenu, AppendingManyRowsStaysLinear)
+namespace {
+
+/// Counts how often a key text was asked for.
+class CountingMenu final : public CVqQuickMenu
 {
-    const auto time_of = [](vq_uint32 count) {
-        CVqQuickMenu menu;
-        menu.AppendPopup(1, 0, VQ_TEXT("Long"));
-        QElapsedTimer clock;
-        clock.start();
-        for (vq_uint32 id = 2; id < count + 2; ++id)
-            menu.AppendMenuItem(id, 1, VQ_TEXT("Row"), VQ_TEXT(""), 0);
-        return clock.nsecsElapsed();
-    };
-    time_of(100);
+public:
+    int Asked() const { return m_asked; }
 
-    const auto short_time = time_of(2'000);
-    const auto long_time = time_of(20'000);
+private:
+    QString KeyText(const CVqMenuItem&) const override
+    {
+        ++m_asked;
+        return {};
+    }
 
-    EXPECT_LT(long_time, 40 * short_time); // ten times for linear, a hundred times for quadratic
+    mutable int m_asked = 0;
+};
+
+}
+
+TEST(CVqQuickMenu, EachOfManyAppendsTellsOfOneRowAndReadsNone)
+{
+    CountingMenu menu;
+    menu.AppendPopup(1, 0, VQ_TEXT("Long"));
+    CVqQuickMenuRows& rows = *menu.Rows()->submenuAt(0);
+    QSignalSpy inserted(&rows, &QAbstractItemModel::rowsInserted);
+    QSignalSpy changed(&rows, &QAbstractItemModel::dataChanged);
+    QSignalSpy reset(&rows, &QAbstractItemModel::modelReset);
+
+    for (vq_uint32 id = 2; id < 2'002; ++id)
+        menu.AppendMenuItem(id, 1, VQ_TEXT("Row"), VQ_TEXT(""), 0);
+
+    EXPECT_EQ(inserted.size(), 2'000);
+    EXPECT_EQ(changed.size() + reset.size(), 0);
+    EXPECT_EQ(menu.Asked(), 0);
 }

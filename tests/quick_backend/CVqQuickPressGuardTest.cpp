@@ -100,3 +100,17 @@ TEST_F(CVqQuickPressGuardTest, AnItemThatDiesIsForgotten)
     EXPECT_TRUE(Press({30, 20}));
     guard.unwatch(nullptr);
 }
+
+TEST_F(CVqQuickPressGuardTest, AnItemThatDiedDoesNotEndTheWatchOverOthers)
+{
+    QQuickItem other(window.contentItem());
+    QMouseEvent event(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton, Qt::LeftButton,
+                      {});
+    guard.watch(item.get());
+    item.reset();
+
+    guard.watch(&other);
+    QCoreApplication::sendEvent(&window, &event);
+
+    EXPECT_EQ(outside.size(), 1);
+}

@@ -205,6 +205,94 @@ TEST_F(MenuBar, EnterMenuOpensWhatTheLetterPicks)
     EXPECT_EQ(window.Path(), "File");
 }
 
+TEST_F(MenuBar, AnEmptyPopupDoesNotOpenAndClosesTheOneBefore)
+{
+    window.Menu().DeleteAllIn(10);
+    window.Type('f', Qt::AltModifier);
+
+    window.Press(Qt::Key_Right);
+    EXPECT_EQ(window.Path(), "Edit");
+
+    window.Press(Qt::Key_Right);
+    EXPECT_EQ(window.Path(), "Help");
+}
+
+TEST_F(MenuBar, AChangedBarPutsEverythingAway)
+{
+    window.Type('e', Qt::AltModifier);
+    window.Menu().DeleteId(1);
+    EXPECT_EQ(window.Path(), "");
+
+    window.Type('e', Qt::AltModifier);
+    window.Menu().AppendPopup(40, 0, VQ_TEXT("More"));
+    EXPECT_EQ(window.Path(), "");
+    EXPECT_FALSE(window.Menu().IsTracking());
+}
+
+TEST_F(MenuBar, PressDragAndLetGoOnARowFiresOnce)
+{
+    window.PressOn(window.BarItem(1));
+    ASSERT_EQ(window.Path(), "Edit/");
+
+    window.DragTo(window.Row(1));
+    EXPECT_EQ(window.Path(), "Edit/Copy");
+
+    window.LetGo(window.Row(2));
+    EXPECT_THAT(window.Fired(), ElementsAre(13u));
+    EXPECT_EQ(window.Path(), "");
+}
+
+TEST_F(MenuBar, ADragOverTheBarOpensWhatItIsOver)
+{
+    window.PressOn(window.BarItem(0));
+
+    window.DragTo(window.BarItem(1));
+    EXPECT_EQ(window.Path(), "Edit/");
+
+    window.LetGo(window.BarItem(1));
+    EXPECT_EQ(window.Path(), "Edit/");
+}
+
+TEST_F(MenuBar, ADragIntoASecondLevelFiresThere)
+{
+    window.PressOn(window.BarItem(0));
+
+    window.DragTo(window.Row(3));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return window.OpenLists().size() == 2; }));
+    window.DragTo(window.Row(0));
+    window.LetGo(window.Row(0));
+
+    EXPECT_THAT(window.Fired(), ElementsAre(6u));
+}
+
+TEST_F(MenuBar, LetGoOnAGrayedRowOrElsewhereFiresNothing)
+{
+    window.PressOn(window.BarItem(0));
+    window.DragTo(window.Row(1));
+    window.LetGo(window.Row(1));
+    EXPECT_EQ(window.Path(), "File/");
+    window.Click(window.BarItem(0));
+
+    QQuickItem* field = window.Find(QStringLiteral("field"));
+    window.PressOn(window.BarItem(0));
+    window.DragTo(field);
+    window.LetGo(field);
+
+    EXPECT_EQ(window.Path(), "");
+    EXPECT_THAT(window.Fired(), IsEmpty());
+}
+
+TEST(MenuBarWithShortcuts, KeysOfTheOpenMenuGoBeforeShortcutsOfTheWindow)
+{
+    MenuWindow window("Shortcut { sequence: \"C\"; onActivated: console.warn(sequence) }");
+    FillMenu(window.Menu());
+
+    window.Type('e', Qt::AltModifier);
+    window.Type('c');
+
+    EXPECT_THAT(window.Fired(), ElementsAre(12u));
+}
+
 TEST(MenuBarMirrored, RightToLeftTurnsPlacesAndArrowsRound)
 {
     MenuWindow window("LayoutMirroring.enabled: true");
@@ -215,4 +303,22 @@ TEST(MenuBarMirrored, RightToLeftTurnsPlacesAndArrowsRound)
 
     EXPECT_GT(window.BarItem(0)->mapToScene({}).x(), window.BarItem(1)->mapToScene({}).x());
     EXPECT_EQ(window.Path(), "Edit");
+}
+
+TEST(MenuBarMirrored, PopupsHangFromTheRightAndOpenToTheLeft)
+{
+    MenuWindow window("LayoutMirroring.enabled: true");
+    FillMenu(window.Menu());
+    window.Settle();
+    window.Type('f', Qt::AltModifier);
+    window.Press(Qt::Key_End);
+
+    window.Press(Qt::Key_Left);
+    EXPECT_EQ(window.Path(), "File/Recent/one");
+    EXPECT_LT(window.OpenLists()[1]->mapToScene({}).x(), window.OpenLists()[0]->mapToScene({}).x());
+
+    window.Press(Qt::Key_Right);
+    EXPECT_EQ(window.Path(), "File/Recent");
+    window.Press(Qt::Key_Right);
+    EXPECT_EQ(window.Path(), "Help/About");
 }

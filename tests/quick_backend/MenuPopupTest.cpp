@@ -180,6 +180,28 @@ TEST_F(MenuPopup, AClickFiresOnce)
     EXPECT_EQ(window.Path(), "");
 }
 
+TEST_F(MenuPopup, APressThatIsDraggedToAnotherRowFiresThatOne)
+{
+    window.Click(window.BarItem(1));
+
+    window.PressOn(window.Row(0));
+    window.DragTo(window.Row(2));
+    EXPECT_EQ(window.Path(), "Edit/Cut");
+
+    window.LetGo(window.Row(2));
+    EXPECT_THAT(window.Fired(), ElementsAre(13u));
+}
+
+TEST_F(MenuPopup, AnIdentifierBeyond31BitsFires)
+{
+    window.Menu().AppendMenuItem(0xFFFFFFF0, 20, VQ_TEXT("&Large"), VQ_TEXT("Large"), 0);
+    window.Type('h', Qt::AltModifier);
+
+    window.Type('l');
+
+    EXPECT_THAT(window.Fired(), ElementsAre(0xFFFFFFF0));
+}
+
 TEST_F(MenuPopup, AClickOnAGrayedRowOrASeparatorDoesNothing)
 {
     window.Click(window.BarItem(0));
@@ -332,6 +354,17 @@ TEST_F(MenuPopup, TellsScreenReadersNamesKeysAndMarks)
     EXPECT_TRUE(row->state().checked);
 }
 
+TEST_F(MenuPopup, TellsScreenReadersWhichPopupARowIsIn)
+{
+    OpenFile();
+    window.Type('r');
+    QAccessibleInterface* row = QAccessible::queryAccessibleInterface(window.Row(0));
+    ASSERT_TRUE(row && row->parent());
+
+    EXPECT_EQ(row->parent()->role(), QAccessible::PopupMenu);
+    EXPECT_EQ(row->parent()->text(QAccessible::Name), QStringLiteral("Recent"));
+}
+
 TEST_F(MenuPopup, TellsScreenReadersWhichRowHasTheFocus)
 {
     OpenFile();
@@ -353,4 +386,20 @@ TEST_F(MenuPopup, AScreenReaderCanPressARow)
     row->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
 
     EXPECT_THAT(window.Fired(), ElementsAre(12u));
+}
+
+TEST(MenuPopupLooks, EachLevelHasTheFontAndThePaletteOfTheBar)
+{
+    MenuWindow window("font.pixelSize: 21; palette { text: \"#102030\"; base: \"#a0b0c0\" }");
+    FillMenu(window.Menu());
+    window.Type('f', Qt::AltModifier);
+    window.Type('r');
+    window.Type('m');
+
+    ASSERT_EQ(window.OpenLists().size(), 3u);
+    EXPECT_EQ(window.Row(0)->property("font").value<QFont>().pixelSize(), 21);
+    EXPECT_EQ(
+        window.Row(0)->property("ink").value<QColor>(),
+        window.Row(0)->property("palette").value<QObject*>()->property("highlightedText").value<QColor>());
+    EXPECT_EQ(window.ColorAt(window.OpenLists().back(), {80, -2}), QColor(0xA0, 0xB0, 0xC0));
 }

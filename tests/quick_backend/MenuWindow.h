@@ -34,6 +34,7 @@ public:
     ~MenuWindow() { ParkPointer(); }
 
     CVqQuickMenu& Menu() { return m_menu; }
+    QQmlEngine& Engine() { return m_engine; }
     QQuickWindow& Window() { return *qobject_cast<QQuickWindow*>(m_object.get()); }
     const std::vector<vq_uint32>& Fired() const { return m_fired; }
 
@@ -66,6 +67,18 @@ public:
     {
         QTest::mouseMove(&Window(), Centre(item) + QPoint(1, 0));
         QTest::mouseMove(&Window(), Centre(item));
+    }
+
+    /// Presses the button over an item; DragTo() moves the pointer with it held, LetGo() releases it.
+    void PressOn(const QQuickItem* item) { QTest::mousePress(&Window(), Qt::LeftButton, {}, Centre(item)); }
+    void DragTo(const QQuickItem* item) { Hover(item); }
+    void LetGo(const QQuickItem* item) { QTest::mouseRelease(&Window(), Qt::LeftButton, {}, Centre(item)); }
+
+    /// What is drawn at a place of an item.
+    QColor ColorAt(const QQuickItem* item, const QPointF& place)
+    {
+        const QImage picture = Window().grabWindow();
+        return picture.pixelColor((item->mapToScene(place) * picture.devicePixelRatio()).toPoint());
     }
 
     void ClickAt(const QPoint& position) { QTest::mouseClick(&Window(), Qt::LeftButton, {}, position); }

@@ -41,3 +41,21 @@ TEST(SVqQuickManipulators, RemovesNothingForAnUnknownIdentifier)
     EXPECT_EQ(menu.Manipulators().remove_item(7, nullptr), nullptr);
     EXPECT_EQ(menu.Rows()->Count(), 1);
 }
+
+TEST(SVqQuickManipulators, CopiesRadioItemsAsSuch)
+{
+    SVqQuickManipulators manipulators;
+    CVqMenuItem* source = manipulators.create_item_mainroot(0);
+    manipulators.append_item(source, manipulators.create_item_separator(5));
+    manipulators.append_item(source, manipulators.create_item_separator(6));
+    static_cast<CVqQuickMenuItem*>(source->subItem()->nextItem())->setRadio(true);
+    CVqMenuItem* copy = manipulators.allocMenuItem();
+
+    EXPECT_EQ(manipulators.copy_items_tree(copy, source), 0);
+
+    EXPECT_FALSE(static_cast<CVqQuickMenuItem*>(copy->subItem())->radio());
+    EXPECT_TRUE(static_cast<CVqQuickMenuItem*>(copy->subItem()->nextItem())->radio());
+    EXPECT_EQ(manipulators.copy_items_tree(nullptr, source), -4);
+    manipulators.free_all(source);
+    manipulators.free_all(copy);
+}
