@@ -1,0 +1,1380 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de_DE" sourcelanguage="en">
+<context>
+    <name>Main</name>
+    <message>
+        <source>%1 - Arbor Gallery</source>
+        <translation>%1 - Arbor Galerie</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+</context>
+<context>
+    <name>SidePanel</name>
+    <message>
+        <source>Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Brush</source>
+        <translation>Pinsel</translation>
+    </message>
+    <message>
+        <source>Layers</source>
+        <translation>Ebenen</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+</context>
+<context>
+    <name>StatusLine</name>
+    <message>
+        <source>Choose a command, or press its key.</source>
+        <translation>Wählen Sie einen Befehl oder drücken Sie seine Taste.</translation>
+    </message>
+    <message>
+        <source>found in %1</source>
+        <translation>gefunden in %1</translation>
+    </message>
+</context>
+<context>
+    <name>Menu</name>
+    <message>
+        <source>&amp;File</source>
+        <translation>Datei</translation>
+    </message>
+    <message>
+        <source>&amp;New...</source>
+        <translation>Neu ...</translation>
+    </message>
+    <message>
+        <source>New from &amp;Sample</source>
+        <translation>Neu aus Beispiel</translation>
+    </message>
+    <message>
+        <source>Lake at &amp;Dawn</source>
+        <translation>See im Morgengrauen</translation>
+    </message>
+    <message>
+        <source>Colour &amp;Chart</source>
+        <translation>Farbtafel</translation>
+    </message>
+    <message>
+        <source>Concentric &amp;Rings</source>
+        <translation>Ringe</translation>
+    </message>
+    <message>
+        <source>New from Clip&amp;board</source>
+        <translation>Neu aus Zwischenablage</translation>
+    </message>
+    <message>
+        <source>&amp;Open...</source>
+        <translation>Öffnen ...</translation>
+    </message>
+    <message>
+        <source>Open as &amp;Layers...</source>
+        <translation>Als Ebenen öffnen ...</translation>
+    </message>
+    <message>
+        <source>Open &amp;Recent</source>
+        <translation>Zuletzt geöffnet</translation>
+    </message>
+    <message>
+        <source>harbour-evening.png</source>
+        <translation>hafen-abend.png</translation>
+    </message>
+    <message>
+        <source>portrait-study.tif</source>
+        <translation>portrait-studie.tif</translation>
+    </message>
+    <message>
+        <source>scan 0042.jpg</source>
+        <translation>scan 0042.jpg</translation>
+    </message>
+    <message>
+        <source>R&amp;&amp;D poster.png</source>
+        <translation>F&amp;&amp;E-Plakat.png</translation>
+    </message>
+    <message>
+        <source>&amp;Clear List</source>
+        <translation>Liste leeren</translation>
+    </message>
+    <message>
+        <source>&amp;Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Speichern unter ...</translation>
+    </message>
+    <message>
+        <source>Save a Cop&amp;y...</source>
+        <translation>Kopie speichern ...</translation>
+    </message>
+    <message>
+        <source>Re&amp;vert</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>&amp;Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>From &amp;Scanner...</source>
+        <translation>Vom Scanner ...</translation>
+    </message>
+    <message>
+        <source>From &amp;Camera...</source>
+        <translation>Von der Kamera ...</translation>
+    </message>
+    <message>
+        <source>&amp;Raw Photographs...</source>
+        <translation>Rohbilder ...</translation>
+    </message>
+    <message>
+        <source>Screen Sho&amp;t...</source>
+        <translation>Bildschirmfoto ...</translation>
+    </message>
+    <message>
+        <source>&amp;Export</source>
+        <translation>Exportieren</translation>
+    </message>
+    <message>
+        <source>Export A&amp;gain</source>
+        <translation>Erneut exportieren</translation>
+    </message>
+    <message>
+        <source>&amp;Export As...</source>
+        <translation>Exportieren als ...</translation>
+    </message>
+    <message>
+        <source>&amp;PNG</source>
+        <translation>PNG</translation>
+    </message>
+    <message>
+        <source>&amp;JPEG</source>
+        <translation>JPEG</translation>
+    </message>
+    <message>
+        <source>&amp;WebP</source>
+        <translation>WebP</translation>
+    </message>
+    <message>
+        <source>&amp;TIFF</source>
+        <translation>TIFF</translation>
+    </message>
+    <message>
+        <source>PDF &amp;Page</source>
+        <translation>PDF-Seite</translation>
+    </message>
+    <message>
+        <source>&amp;Slices</source>
+        <translation>Ausschnitte</translation>
+    </message>
+    <message>
+        <source>&amp;Layers as Files...</source>
+        <translation>Ebenen als Dateien ...</translation>
+    </message>
+    <message>
+        <source>Page Set&amp;up...</source>
+        <translation>Seite einrichten ...</translation>
+    </message>
+    <message>
+        <source>&amp;Print...</source>
+        <translation>Drucken ...</translation>
+    </message>
+    <message>
+        <source>Propert&amp;ies...</source>
+        <translation>Eigenschaften ...</translation>
+    </message>
+    <message>
+        <source>&amp;Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close All</source>
+        <translation>Alle schließen</translation>
+    </message>
+    <message>
+        <source>&amp;Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>&amp;Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>&amp;Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>&amp;Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo &amp;History...</source>
+        <translation>Verlauf ...</translation>
+    </message>
+    <message>
+        <source>Cu&amp;t</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy &amp;Merged</source>
+        <translation>Sichtbares kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message>
+        <source>Paste Spec&amp;ial</source>
+        <translation>Einfügen als</translation>
+    </message>
+    <message>
+        <source>In &amp;Place</source>
+        <translation>An gleicher Stelle</translation>
+    </message>
+    <message>
+        <source>As New &amp;Layer</source>
+        <translation>Als neue Ebene</translation>
+    </message>
+    <message>
+        <source>As New &amp;Image</source>
+        <translation>Als neues Bild</translation>
+    </message>
+    <message>
+        <source>Into &amp;Selection</source>
+        <translation>In die Auswahl</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Fill with &amp;Foreground</source>
+        <translation>Mit Vordergrund füllen</translation>
+    </message>
+    <message>
+        <source>Fill with &amp;Background</source>
+        <translation>Mit Hintergrund füllen</translation>
+    </message>
+    <message>
+        <source>Fill with Patter&amp;n...</source>
+        <translation>Mit Muster füllen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Stroke Selection...</source>
+        <translation>Auswahl nachziehen ...</translation>
+    </message>
+    <message>
+        <source>Keyboard Short&amp;cuts...</source>
+        <translation>Tastenkürzel ...</translation>
+    </message>
+    <message>
+        <source>Prefer&amp;ences...</source>
+        <translation>Einstellungen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Image</source>
+        <translation>Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Image Size...</source>
+        <translation>Bildgröße ...</translation>
+    </message>
+    <message>
+        <source>Canvas &amp;Size...</source>
+        <translation>Leinwandgröße ...</translation>
+    </message>
+    <message>
+        <source>&amp;Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Crop to Se&amp;lection</source>
+        <translation>Auf Auswahl zuschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Trim Borders...</source>
+        <translation>Ränder abschneiden ...</translation>
+    </message>
+    <message>
+        <source>&amp;Transform</source>
+        <translation>Transformieren</translation>
+    </message>
+    <message>
+        <source>&amp;Rotate</source>
+        <translation>Drehen</translation>
+    </message>
+    <message>
+        <source>&amp;90° Clockwise</source>
+        <translation>90° im Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>90° Counter&amp;clockwise</source>
+        <translation>90° gegen den Uhrzeigersinn</translation>
+    </message>
+    <message>
+        <source>&amp;180°</source>
+        <translation>180°</translation>
+    </message>
+    <message>
+        <source>&amp;Straighten</source>
+        <translation>Ausrichten</translation>
+    </message>
+    <message>
+        <source>Any A&amp;ngle...</source>
+        <translation>Beliebiger Winkel ...</translation>
+    </message>
+    <message>
+        <source>&amp;Flip</source>
+        <translation>Spiegeln</translation>
+    </message>
+    <message>
+        <source>&amp;Horizontally</source>
+        <translation>Waagerecht</translation>
+    </message>
+    <message>
+        <source>&amp;Vertically</source>
+        <translation>Senkrecht</translation>
+    </message>
+    <message>
+        <source>&amp;Perspective...</source>
+        <translation>Perspektive ...</translation>
+    </message>
+    <message>
+        <source>&amp;Shear...</source>
+        <translation>Scheren ...</translation>
+    </message>
+    <message>
+        <source>&amp;Lens Correction...</source>
+        <translation>Objektivkorrektur ...</translation>
+    </message>
+    <message>
+        <source>Colour &amp;Mode</source>
+        <translation>Farbmodus</translation>
+    </message>
+    <message>
+        <source>&amp;RGB</source>
+        <translation>RGB</translation>
+    </message>
+    <message>
+        <source>&amp;Grayscale</source>
+        <translation>Graustufen</translation>
+    </message>
+    <message>
+        <source>&amp;Indexed...</source>
+        <translation>Indiziert ...</translation>
+    </message>
+    <message>
+        <source>&amp;CMYK</source>
+        <translation>CMYK</translation>
+    </message>
+    <message>
+        <source>&amp;Lab</source>
+        <translation>Lab</translation>
+    </message>
+    <message>
+        <source>&amp;Bits per Channel</source>
+        <translation>Bit je Kanal</translation>
+    </message>
+    <message>
+        <source>8</source>
+        <translation>8</translation>
+    </message>
+    <message>
+        <source>16</source>
+        <translation>16</translation>
+    </message>
+    <message>
+        <source>32 (linear light)</source>
+        <translation>32 (lineares Licht)</translation>
+    </message>
+    <message>
+        <source>&amp;Assign Profile...</source>
+        <translation>Profil zuweisen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Convert to Profile...</source>
+        <translation>In Profil umwandeln ...</translation>
+    </message>
+    <message>
+        <source>&amp;Histogram</source>
+        <translation>Histogramm</translation>
+    </message>
+    <message>
+        <source>&amp;Layer</source>
+        <translation>Ebene</translation>
+    </message>
+    <message>
+        <source>&amp;New Layer...</source>
+        <translation>Neue Ebene ...</translation>
+    </message>
+    <message>
+        <source>New Layer from &amp;Copy</source>
+        <translation>Neue Ebene durch Kopieren</translation>
+    </message>
+    <message>
+        <source>New Layer from C&amp;ut</source>
+        <translation>Neue Ebene durch Ausschneiden</translation>
+    </message>
+    <message>
+        <source>&amp;Delete Layer</source>
+        <translation>Ebene löschen</translation>
+    </message>
+    <message>
+        <source>Layer &amp;Visible</source>
+        <translation>Ebene sichtbar</translation>
+    </message>
+    <message>
+        <source>&amp;Lock Layer</source>
+        <translation>Ebene sperren</translation>
+    </message>
+    <message>
+        <source>Blend &amp;Mode</source>
+        <translation>Mischmodus</translation>
+    </message>
+    <message>
+        <source>Normal</source>
+        <translation>Normal</translation>
+    </message>
+    <message>
+        <source>Dissolve</source>
+        <translation>Auflösen</translation>
+    </message>
+    <message>
+        <source>Darken</source>
+        <translation>Abdunkeln</translation>
+    </message>
+    <message>
+        <source>Multiply</source>
+        <translation>Multiplizieren</translation>
+    </message>
+    <message>
+        <source>Colour Burn</source>
+        <translation>Farbig nachbelichten</translation>
+    </message>
+    <message>
+        <source>Linear Burn</source>
+        <translation>Linear nachbelichten</translation>
+    </message>
+    <message>
+        <source>Darker Colour</source>
+        <translation>Dunklere Farbe</translation>
+    </message>
+    <message>
+        <source>Lighten</source>
+        <translation>Aufhellen</translation>
+    </message>
+    <message>
+        <source>Screen</source>
+        <translation>Negativ multiplizieren</translation>
+    </message>
+    <message>
+        <source>Colour Dodge</source>
+        <translation>Farbig abwedeln</translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Addieren</translation>
+    </message>
+    <message>
+        <source>Lighter Colour</source>
+        <translation>Hellere Farbe</translation>
+    </message>
+    <message>
+        <source>Overlay</source>
+        <translation>Überlagern</translation>
+    </message>
+    <message>
+        <source>Soft Light</source>
+        <translation>Weiches Licht</translation>
+    </message>
+    <message>
+        <source>Hard Light</source>
+        <translation>Hartes Licht</translation>
+    </message>
+    <message>
+        <source>Vivid Light</source>
+        <translation>Strahlendes Licht</translation>
+    </message>
+    <message>
+        <source>Linear Light</source>
+        <translation>Lineares Licht</translation>
+    </message>
+    <message>
+        <source>Pin Light</source>
+        <translation>Punktlicht</translation>
+    </message>
+    <message>
+        <source>Hard Mix</source>
+        <translation>Hart mischen</translation>
+    </message>
+    <message>
+        <source>Difference</source>
+        <translation>Differenz</translation>
+    </message>
+    <message>
+        <source>Exclusion</source>
+        <translation>Ausschluss</translation>
+    </message>
+    <message>
+        <source>Subtract</source>
+        <translation>Subtrahieren</translation>
+    </message>
+    <message>
+        <source>Divide</source>
+        <translation>Dividieren</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Luminosity</source>
+        <translation>Leuchtkraft</translation>
+    </message>
+    <message>
+        <source>Behind</source>
+        <translation>Dahinter</translation>
+    </message>
+    <message>
+        <source>Erase</source>
+        <translation>Radieren</translation>
+    </message>
+    <message>
+        <source>Exclusive Or</source>
+        <translation>Ausschließendes Oder</translation>
+    </message>
+    <message>
+        <source>Alpha Copy</source>
+        <translation>Alpha kopieren</translation>
+    </message>
+    <message>
+        <source>&amp;Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>100 %</source>
+        <translation>100 %</translation>
+    </message>
+    <message>
+        <source>80 %</source>
+        <translation>80 %</translation>
+    </message>
+    <message>
+        <source>60 %</source>
+        <translation>60 %</translation>
+    </message>
+    <message>
+        <source>40 %</source>
+        <translation>40 %</translation>
+    </message>
+    <message>
+        <source>20 %</source>
+        <translation>20 %</translation>
+    </message>
+    <message>
+        <source>&amp;Arrange</source>
+        <translation>Anordnen</translation>
+    </message>
+    <message>
+        <source>Bring to &amp;Front</source>
+        <translation>Ganz nach vorn</translation>
+    </message>
+    <message>
+        <source>Bring For&amp;ward</source>
+        <translation>Eine Stufe nach vorn</translation>
+    </message>
+    <message>
+        <source>Send Back&amp;ward</source>
+        <translation>Eine Stufe nach hinten</translation>
+    </message>
+    <message>
+        <source>Send to &amp;Back</source>
+        <translation>Ganz nach hinten</translation>
+    </message>
+    <message>
+        <source>&amp;Reverse Order</source>
+        <translation>Reihenfolge umkehren</translation>
+    </message>
+    <message>
+        <source>Layer Mas&amp;k</source>
+        <translation>Ebenenmaske</translation>
+    </message>
+    <message>
+        <source>&amp;Reveal All</source>
+        <translation>Alles zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Hide All</source>
+        <translation>Alles verbergen</translation>
+    </message>
+    <message>
+        <source>From &amp;Selection</source>
+        <translation>Aus der Auswahl</translation>
+    </message>
+    <message>
+        <source>&amp;Apply</source>
+        <translation>Anwenden</translation>
+    </message>
+    <message>
+        <source>&amp;Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Group Layers</source>
+        <translation>Ebenen gruppieren</translation>
+    </message>
+    <message>
+        <source>Un&amp;group Layers</source>
+        <translation>Gruppierung aufheben</translation>
+    </message>
+    <message>
+        <source>Merge &amp;Down</source>
+        <translation>Mit unterer verbinden</translation>
+    </message>
+    <message>
+        <source>Merge V&amp;isible</source>
+        <translation>Sichtbare verbinden</translation>
+    </message>
+    <message>
+        <source>&amp;Flatten Image</source>
+        <translation>Auf eine Ebene reduzieren</translation>
+    </message>
+    <message>
+        <source>&amp;Select</source>
+        <translation>Auswahl</translation>
+    </message>
+    <message>
+        <source>&amp;All</source>
+        <translation>Alles</translation>
+    </message>
+    <message>
+        <source>&amp;Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>&amp;Inverse</source>
+        <translation>Umkehren</translation>
+    </message>
+    <message>
+        <source>&amp;Reselect</source>
+        <translation>Erneut auswählen</translation>
+    </message>
+    <message>
+        <source>By Co&amp;lour...</source>
+        <translation>Nach Farbe ...</translation>
+    </message>
+    <message>
+        <source>S&amp;ubject</source>
+        <translation>Motiv</translation>
+    </message>
+    <message>
+        <source>&amp;Opaque Pixels</source>
+        <translation>Deckende Pixel</translation>
+    </message>
+    <message>
+        <source>&amp;Modify</source>
+        <translation>Verändern</translation>
+    </message>
+    <message>
+        <source>&amp;Grow</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>&amp;Shrink</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Feather...</source>
+        <translation>Weiche Kante ...</translation>
+    </message>
+    <message>
+        <source>&amp;Border...</source>
+        <translation>Rand ...</translation>
+    </message>
+    <message>
+        <source>S&amp;mooth...</source>
+        <translation>Glätten ...</translation>
+    </message>
+    <message>
+        <source>&amp;Remove Holes</source>
+        <translation>Löcher entfernen</translation>
+    </message>
+    <message>
+        <source>&amp;Quick Mask</source>
+        <translation>Schnellmaske</translation>
+    </message>
+    <message>
+        <source>Show &amp;Edges</source>
+        <translation>Kanten zeigen</translation>
+    </message>
+    <message>
+        <source>L&amp;oad Selection...</source>
+        <translation>Auswahl laden ...</translation>
+    </message>
+    <message>
+        <source>&amp;Save Selection...</source>
+        <translation>Auswahl speichern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Adjust</source>
+        <translation>Anpassen</translation>
+    </message>
+    <message>
+        <source>&amp;Invert</source>
+        <translation>Umkehren</translation>
+    </message>
+    <message>
+        <source>&amp;Sepia</source>
+        <translation>Sepia</translation>
+    </message>
+    <message>
+        <source>Auto &amp;Levels</source>
+        <translation>Tonwerte automatisch</translation>
+    </message>
+    <message>
+        <source>&amp;Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>&amp;Brighter</source>
+        <translation>Heller</translation>
+    </message>
+    <message>
+        <source>&amp;Darker</source>
+        <translation>Dunkler</translation>
+    </message>
+    <message>
+        <source>More &amp;Contrast</source>
+        <translation>Mehr Kontrast</translation>
+    </message>
+    <message>
+        <source>&amp;Less Contrast</source>
+        <translation>Weniger Kontrast</translation>
+    </message>
+    <message>
+        <source>L&amp;evels...</source>
+        <translation>Tonwerte ...</translation>
+    </message>
+    <message>
+        <source>C&amp;urves...</source>
+        <translation>Gradationskurven ...</translation>
+    </message>
+    <message>
+        <source>E&amp;xposure...</source>
+        <translation>Belichtung ...</translation>
+    </message>
+    <message>
+        <source>Shadows and &amp;Highlights...</source>
+        <translation>Tiefen und Lichter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>&amp;Warmer</source>
+        <translation>Wärmer</translation>
+    </message>
+    <message>
+        <source>C&amp;ooler</source>
+        <translation>Kühler</translation>
+    </message>
+    <message>
+        <source>More &amp;Vivid</source>
+        <translation>Kräftiger</translation>
+    </message>
+    <message>
+        <source>&amp;Paler</source>
+        <translation>Blasser</translation>
+    </message>
+    <message>
+        <source>&amp;Hue and Saturation...</source>
+        <translation>Farbton und Sättigung ...</translation>
+    </message>
+    <message>
+        <source>Colour &amp;Balance...</source>
+        <translation>Farbbalance ...</translation>
+    </message>
+    <message>
+        <source>Channel &amp;Mixer...</source>
+        <translation>Kanalmixer ...</translation>
+    </message>
+    <message>
+        <source>&amp;Replace Colour...</source>
+        <translation>Farbe ersetzen ...</translation>
+    </message>
+    <message>
+        <source>Photo &amp;Filter...</source>
+        <translation>Fotofilter ...</translation>
+    </message>
+    <message>
+        <source>&amp;Threshold</source>
+        <translation>Schwellwert</translation>
+    </message>
+    <message>
+        <source>&amp;Posterize</source>
+        <translation>Tontrennung</translation>
+    </message>
+    <message>
+        <source>Gradient &amp;Map...</source>
+        <translation>Verlaufsumsetzung ...</translation>
+    </message>
+    <message>
+        <source>&amp;Equalize</source>
+        <translation>Angleichen</translation>
+    </message>
+    <message>
+        <source>Fil&amp;ters</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>&amp;Repeat Last</source>
+        <translation>Letzten wiederholen</translation>
+    </message>
+    <message>
+        <source>&amp;Show Last...</source>
+        <translation>Letzten zeigen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Blur</source>
+        <translation>Weichzeichnen</translation>
+    </message>
+    <message>
+        <source>&amp;Soft</source>
+        <translation>Leicht</translation>
+    </message>
+    <message>
+        <source>S&amp;tronger</source>
+        <translation>Stärker</translation>
+    </message>
+    <message>
+        <source>&amp;Gaussian...</source>
+        <translation>Nach Gauß ...</translation>
+    </message>
+    <message>
+        <source>&amp;Motion...</source>
+        <translation>Bewegung ...</translation>
+    </message>
+    <message>
+        <source>&amp;Radial...</source>
+        <translation>Kreisförmig ...</translation>
+    </message>
+    <message>
+        <source>&amp;Lens...</source>
+        <translation>Objektiv ...</translation>
+    </message>
+    <message>
+        <source>M&amp;edian</source>
+        <translation>Median</translation>
+    </message>
+    <message>
+        <source>S&amp;harpen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>&amp;Sharpen</source>
+        <translation>Schärfen</translation>
+    </message>
+    <message>
+        <source>&amp;Unsharp Mask...</source>
+        <translation>Unscharf maskieren ...</translation>
+    </message>
+    <message>
+        <source>&amp;High Pass...</source>
+        <translation>Hochpass ...</translation>
+    </message>
+    <message>
+        <source>&amp;Noise</source>
+        <translation>Rauschen</translation>
+    </message>
+    <message>
+        <source>&amp;Add Grain</source>
+        <translation>Korn hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Reduce...</source>
+        <translation>Verringern ...</translation>
+    </message>
+    <message>
+        <source>&amp;Dust and Scratches...</source>
+        <translation>Staub und Kratzer ...</translation>
+    </message>
+    <message>
+        <source>&amp;Distort</source>
+        <translation>Verzerren</translation>
+    </message>
+    <message>
+        <source>&amp;Pixelate</source>
+        <translation>Pixel vergröbern</translation>
+    </message>
+    <message>
+        <source>&amp;Wave</source>
+        <translation>Welle</translation>
+    </message>
+    <message>
+        <source>&amp;Twirl...</source>
+        <translation>Strudel ...</translation>
+    </message>
+    <message>
+        <source>Pin&amp;ch...</source>
+        <translation>Zusammenziehen ...</translation>
+    </message>
+    <message>
+        <source>&amp;Ripple...</source>
+        <translation>Kräuseln ...</translation>
+    </message>
+    <message>
+        <source>&amp;Spherize...</source>
+        <translation>Auf Kugel ...</translation>
+    </message>
+    <message>
+        <source>Polar &amp;Coordinates...</source>
+        <translation>Polarkoordinaten ...</translation>
+    </message>
+    <message>
+        <source>&amp;Stylize</source>
+        <translation>Stilisieren</translation>
+    </message>
+    <message>
+        <source>&amp;Find Edges</source>
+        <translation>Kanten finden</translation>
+    </message>
+    <message>
+        <source>&amp;Emboss</source>
+        <translation>Relief</translation>
+    </message>
+    <message>
+        <source>&amp;Solarize</source>
+        <translation>Solarisieren</translation>
+    </message>
+    <message>
+        <source>&amp;Oil Paint...</source>
+        <translation>Ölfarbe ...</translation>
+    </message>
+    <message>
+        <source>&amp;Halftone...</source>
+        <translation>Raster ...</translation>
+    </message>
+    <message>
+        <source>&amp;Mosaic...</source>
+        <translation>Mosaik ...</translation>
+    </message>
+    <message>
+        <source>&amp;Render</source>
+        <translation>Erzeugen</translation>
+    </message>
+    <message>
+        <source>&amp;Vignette</source>
+        <translation>Vignette</translation>
+    </message>
+    <message>
+        <source>&amp;Clouds...</source>
+        <translation>Wolken ...</translation>
+    </message>
+    <message>
+        <source>&amp;Lens Flare...</source>
+        <translation>Blendenfleck ...</translation>
+    </message>
+    <message>
+        <source>Checker&amp;board</source>
+        <translation>Schachbrett</translation>
+    </message>
+    <message>
+        <source>&amp;Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>&amp;Move</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message>
+        <source>&amp;Rectangle Select</source>
+        <translation>Auswahlrechteck</translation>
+    </message>
+    <message>
+        <source>&amp;Ellipse Select</source>
+        <translation>Auswahlellipse</translation>
+    </message>
+    <message>
+        <source>&amp;Lasso</source>
+        <translation>Lasso</translation>
+    </message>
+    <message>
+        <source>Magic &amp;Wand</source>
+        <translation>Zauberstab</translation>
+    </message>
+    <message>
+        <source>&amp;Crop</source>
+        <translation>Freistellen</translation>
+    </message>
+    <message>
+        <source>E&amp;yedropper</source>
+        <translation>Pipette</translation>
+    </message>
+    <message>
+        <source>Rule&amp;r</source>
+        <translation>Lineal</translation>
+    </message>
+    <message>
+        <source>&amp;Healing Brush</source>
+        <translation>Reparaturpinsel</translation>
+    </message>
+    <message>
+        <source>&amp;Brush</source>
+        <translation>Pinsel</translation>
+    </message>
+    <message>
+        <source>Pe&amp;ncil</source>
+        <translation>Buntstift</translation>
+    </message>
+    <message>
+        <source>Er&amp;aser</source>
+        <translation>Radierer</translation>
+    </message>
+    <message>
+        <source>Clone &amp;Stamp</source>
+        <translation>Stempel</translation>
+    </message>
+    <message>
+        <source>Paint Buc&amp;ket</source>
+        <translation>Fülleimer</translation>
+    </message>
+    <message>
+        <source>&amp;Gradient</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Smu&amp;dge</source>
+        <translation>Wischfinger</translation>
+    </message>
+    <message>
+        <source>D&amp;odge</source>
+        <translation>Abwedler</translation>
+    </message>
+    <message>
+        <source>B&amp;urn</source>
+        <translation>Nachbelichter</translation>
+    </message>
+    <message>
+        <source>&amp;Pen</source>
+        <translation>Zeichenfeder</translation>
+    </message>
+    <message>
+        <source>&amp;Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Hand</source>
+        <translation>Hand</translation>
+    </message>
+    <message>
+        <source>&amp;Zoom</source>
+        <translation>Zoom</translation>
+    </message>
+    <message>
+        <source>Brush &amp;Width</source>
+        <translation>Pinselbreite</translation>
+    </message>
+    <message>
+        <source>1 px</source>
+        <translation>1 px</translation>
+    </message>
+    <message>
+        <source>2 px</source>
+        <translation>2 px</translation>
+    </message>
+    <message>
+        <source>3 px</source>
+        <translation>3 px</translation>
+    </message>
+    <message>
+        <source>5 px</source>
+        <translation>5 px</translation>
+    </message>
+    <message>
+        <source>8 px</source>
+        <translation>8 px</translation>
+    </message>
+    <message>
+        <source>12 px</source>
+        <translation>12 px</translation>
+    </message>
+    <message>
+        <source>20 px</source>
+        <translation>20 px</translation>
+    </message>
+    <message>
+        <source>32 px</source>
+        <translation>32 px</translation>
+    </message>
+    <message>
+        <source>&amp;Foreground Colour</source>
+        <translation>Vordergrundfarbe</translation>
+    </message>
+    <message>
+        <source>Colour &amp;Pairs</source>
+        <translation>Farbpaare</translation>
+    </message>
+    <message>
+        <source>S&amp;wap Colours</source>
+        <translation>Farben tauschen</translation>
+    </message>
+    <message>
+        <source>&amp;Default Colours</source>
+        <translation>Standardfarben</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Ansicht</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;In</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom &amp;Out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>&amp;Fit in Window</source>
+        <translation>In Fenster einpassen</translation>
+    </message>
+    <message>
+        <source>25 %</source>
+        <translation>25 %</translation>
+    </message>
+    <message>
+        <source>50 %</source>
+        <translation>50 %</translation>
+    </message>
+    <message>
+        <source>200 %</source>
+        <translation>200 %</translation>
+    </message>
+    <message>
+        <source>400 %</source>
+        <translation>400 %</translation>
+    </message>
+    <message>
+        <source>800 %</source>
+        <translation>800 %</translation>
+    </message>
+    <message>
+        <source>&amp;Centre Image</source>
+        <translation>Bild zentrieren</translation>
+    </message>
+    <message>
+        <source>&amp;Rulers</source>
+        <translation>Lineale</translation>
+    </message>
+    <message>
+        <source>&amp;Grid and Guides</source>
+        <translation>Raster und Hilfslinien</translation>
+    </message>
+    <message>
+        <source>Show &amp;Grid</source>
+        <translation>Raster zeigen</translation>
+    </message>
+    <message>
+        <source>Show Gui&amp;des</source>
+        <translation>Hilfslinien zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Snap</source>
+        <translation>Einrasten</translation>
+    </message>
+    <message>
+        <source>Grid Si&amp;ze</source>
+        <translation>Rasterweite</translation>
+    </message>
+    <message>
+        <source>10 px</source>
+        <translation>10 px</translation>
+    </message>
+    <message>
+        <source>25 px</source>
+        <translation>25 px</translation>
+    </message>
+    <message>
+        <source>50 px</source>
+        <translation>50 px</translation>
+    </message>
+    <message>
+        <source>100 px</source>
+        <translation>100 px</translation>
+    </message>
+    <message>
+        <source>200 px</source>
+        <translation>200 px</translation>
+    </message>
+    <message>
+        <source>&amp;New Guide...</source>
+        <translation>Neue Hilfslinie ...</translation>
+    </message>
+    <message>
+        <source>&amp;Lock Guides</source>
+        <translation>Hilfslinien sperren</translation>
+    </message>
+    <message>
+        <source>&amp;Clear Guides</source>
+        <translation>Hilfslinien löschen</translation>
+    </message>
+    <message>
+        <source>&amp;Proof Colours</source>
+        <translation>Farbprüfung</translation>
+    </message>
+    <message>
+        <source>Gamut &amp;Warning</source>
+        <translation>Farbumfang-Warnung</translation>
+    </message>
+    <message>
+        <source>&amp;Appearance</source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>&amp;Light Colours</source>
+        <translation>Helle Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Dark Colours</source>
+        <translation>Dunkle Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Tool Strip</source>
+        <translation>Werkzeugleiste</translation>
+    </message>
+    <message>
+        <source>Side P&amp;anel</source>
+        <translation>Seitenleiste</translation>
+    </message>
+    <message>
+        <source>&amp;Status Line</source>
+        <translation>Statuszeile</translation>
+    </message>
+    <message>
+        <source>&amp;Full Screen</source>
+        <translation>Vollbild</translation>
+    </message>
+    <message>
+        <source>&amp;Window</source>
+        <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>&amp;New Window</source>
+        <translation>Neues Fenster</translation>
+    </message>
+    <message>
+        <source>N&amp;ext Image</source>
+        <translation>Nächstes Bild</translation>
+    </message>
+    <message>
+        <source>&amp;Previous Image</source>
+        <translation>Voriges Bild</translation>
+    </message>
+    <message>
+        <source>Tile &amp;Horizontally</source>
+        <translation>Nebeneinander</translation>
+    </message>
+    <message>
+        <source>Tile &amp;Vertically</source>
+        <translation>Untereinander</translation>
+    </message>
+    <message>
+        <source>&amp;Cascade</source>
+        <translation>Überlappend</translation>
+    </message>
+    <message>
+        <source>&amp;Panels</source>
+        <translation>Bedienfelder</translation>
+    </message>
+    <message>
+        <source>&amp;Layers</source>
+        <translation>Ebenen</translation>
+    </message>
+    <message>
+        <source>&amp;Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>&amp;Navigator</source>
+        <translation>Navigator</translation>
+    </message>
+    <message>
+        <source>&amp;Brushes</source>
+        <translation>Pinsel</translation>
+    </message>
+    <message>
+        <source>&amp;Actions</source>
+        <translation>Aktionen</translation>
+    </message>
+    <message>
+        <source>&amp;Help</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>&amp;Contents</source>
+        <translation>Inhalt</translation>
+    </message>
+    <message>
+        <source>&amp;What&apos;s This?</source>
+        <translation>Was ist das?</translation>
+    </message>
+    <message>
+        <source>&amp;Keyboard Map</source>
+        <translation>Tastenübersicht</translation>
+    </message>
+    <message>
+        <source>&amp;About Arbor</source>
+        <translation>Über Arbor</translation>
+    </message>
+    <message>
+        <source>Image Area</source>
+        <translation>Bildfläche</translation>
+    </message>
+    <message>
+        <source>Select &amp;All</source>
+        <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Select &amp;Nothing</source>
+        <translation>Auswahl aufheben</translation>
+    </message>
+    <message>
+        <source>Swap Co&amp;lours</source>
+        <translation>Farben tauschen</translation>
+    </message>
+</context>
+</TS>
