@@ -1,0 +1,33 @@
+#pragma once
+
+#include "gallery/KeyPress.h"
+
+#include <QStringList>
+
+namespace Gallery {
+
+/// What the command line asks for.
+struct Options
+{
+    QList<KeyPress> keys; ///< Pressed one after the other.
+    QString screenshots;  ///< Folder for pictures; empty for none.
+    QString demo;         ///< Folder for pictures of the tour; empty for none.
+    QString locale;       ///< "de" or "en" for labels and key names, "ja" for key names alone.
+    QString menus;        ///< A menu file in place of the built-in one; empty for none.
+
+    /// The window is only there to be scripted: the program ends by itself.
+    bool IsScript() const { return !keys.isEmpty() || !screenshots.isEmpty() || !demo.isEmpty(); }
+};
+
+/// What became of a command line.
+struct OptionsResult
+{
+    Options options;
+    int exit_code = -1; ///< -1: go on. 0: `message` is what was asked for. 2: `message` says what is wrong.
+    QString message;    ///< One sentence, or the help.
+};
+
+/// Reads `arguments`, of which the first is the program's name. Needs an application object for the help.
+OptionsResult ParseOptions(const QStringList& arguments);
+
+}

@@ -1,0 +1,74 @@
+#pragma once
+
+#include "gallery/Commands.h"
+#include "gallery/Document.h"
+#include "gallery/MenuMarks.h"
+#include "gallery/ViewState.h"
+#include "quick_backend/CVqQuickMenu.h"
+
+namespace Gallery {
+
+/// One run of the gallery: the picture, the view, the menu that acts on them, and what the status line tells.
+class Session : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(Gallery::Document* document READ GetDocument CONSTANT)
+    Q_PROPERTY(Gallery::ViewState* view READ View CONSTANT)
+    Q_PROPERTY(CVqQuickMenu* menu READ Menu CONSTANT)
+    Q_PROPERTY(QString lastCommand READ LastCommand NOTIFY Told)
+    Q_PROPERTY(QString lastKey READ LastKey NOTIFY Told)
+    Q_PROPERTY(QString lastTime READ LastTime NOTIFY Told)
+
+public:
+    /// Builds the menu of `document`.
+    explicit Session(const MenuDocument& document, QObject* parent = nullptr);
+
+    Document* GetDocument() { return &m_document; }
+    ViewState* View() { return &m_view; }
+    CVqQuickMenu* Menu() { return &m_menu; }
+
+    /// The command that ran last; empty before the first.
+    const QString& LastCommand() const { return m_last_command; }
+    /// Its entry, 0 before the first.
+    vq_uint32 LastId() const { return m_last_id; }
+    /// The key that fired it, as menus print it; empty when it was chosen with the mouse or a mnemonic.
+    const QString& LastKey() const { return m_last_key; }
+    /// Time that finding the command of LastKey() took, with its unit; empty without a key.
+    const QString& LastTime() const { return m_last_time; }
+
+    /// Chooses the first entry with `command`, as a click on it does.
+    Q_INVOKABLE void choose(const QString& command);
+
+    /// The label of the first entry with `command`, as people read it; empty when there is none.
+    Q_INVOKABLE QString label(const QString& command);
+
+    /// Opens the first context menu at `x`, `y` of the desktop.
+    Q_INVOKABLE void openContextMenu(int x, int y);
+
+    /// To be called once a key has run the command of `id`; `nanoseconds` is the time that finding it took.
+    Q_INVOKABLE void keyFired(uint id, const QString& key, qint64 nanoseconds);
+
+    /// The colours of the side panel's swatches: those of the one-colour entries, each once.
+    Q_INVOKABLE QStringList swatches();
+
+Q_SIGNALS:
+    void Told();
+    void QuitRequested();
+
+private:
+    void run(vq_uint32 id);
+    void refresh_entries(const QString& command);
+
+    Document m_document;
+    ViewState m_view;
+    Commands m_commands;
+    CVqQuickMenu m_menu;
+    MenuMarks m_marks;
+    vq_uint32 m_context_menu = 0;
+    vq_uint32 m_last_id = 0;
+    QString m_last_command;
+    QString m_last_key;
+    QString m_last_time;
+};
+
+}

@@ -1,0 +1,59 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+
+// The strip of tools on the left; each button chooses the menu entry of its tool.
+Rectangle {
+    id: strip
+
+    required property Session session
+    readonly property list<string> tools: ["move", "rectselect", "lasso", "wand", "crop", "eyedropper", "brush",
+        "pencil", "eraser", "bucket", "gradient", "text", "shape", "hand", "zoom"]
+
+    color: Theme.panel
+    implicitWidth: 44
+
+    Column {
+        anchors { top: parent.top; topMargin: 6; horizontalCenter: parent.horizontalCenter }
+        spacing: 2
+
+        Repeater {
+            model: strip.tools
+
+            Rectangle {
+                id: button
+
+                required property string modelData
+                readonly property bool current: strip.session.view.tool === modelData
+
+                width: 34
+                height: 34
+                radius: Theme.radius
+                color: current ? Theme.accentGround : hover.hovered ? Theme.hover : "transparent"
+
+                Accessible.role: Accessible.RadioButton
+                Accessible.name: strip.session.label("Tool(" + modelData + ")") || modelData
+                Accessible.checked: current
+                Accessible.onPressAction: strip.session.choose("Tool(" + modelData + ")")
+
+                ToolIcon {
+                    anchors.centerIn: parent
+                    tool: button.modelData
+                    color: button.current ? Theme.accent : Theme.ink
+                }
+                HoverHandler {
+                    id: hover
+                }
+                TapHandler {
+                    onTapped: strip.session.choose("Tool(" + button.modelData + ")")
+                }
+            }
+        }
+    }
+
+    Rectangle {
+        anchors { top: parent.top; bottom: parent.bottom; right: parent.right }
+        width: 1
+        color: Theme.line
+    }
+}

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "gallery/GalleryModule.h"
+#include "gallery/Session.h"
+#include "gallery/Translations.h"
+#include "tests/gallery/RealMenu.h"
+
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+
+#include <gtest/gtest.h>
+
+/// The window of the program, with the real menu.
+class MainWindow
+{
+public:
+    explicit MainWindow(const QString& locale = QStringLiteral("en")) : m_translations(locale)
+    {
+        Gallery::KeepQmlModule();
+        m_engine.setInitialProperties({{QStringLiteral("session"), QVariant::fromValue(&m_session)}});
+        m_engine.loadFromModule("K7.Arbor.Gallery", "Main");
+        m_window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0));
+        EXPECT_TRUE(m_window);
+        m_window->requestActivate();
+        m_window->grabWindow(); // lays everything out
+    }
+
+    Gallery::Session& GetSession() { return m_session; }
+    QQuickWindow& Window() { return *m_window; }
+
+private:
+    Gallery::Translations m_translations;
+    Gallery::Session m_session{RealMenu()};
+    QQmlApplicationEngine m_engine;
+    QQuickWindow* m_window = nullptr;
+};

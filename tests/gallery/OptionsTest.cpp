@@ -1,0 +1,99 @@
+#include "gallery/Options.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+using Gallery::Options;
+using Gallery::OptionsResult;
+using Gallery::ParseOptions;
+
+namespace {
+
+OptionsResult parse(const QStringList& arguments)
+{
+    return ParseOptions(QStringList{u"arbor_gallery"_s} + arguments);
+}
+
+struct BadRow
+{
+    const char* name;
+    QStringList arguments;
+    const char* sentence;
+};
+
+}
+
+TEST(Options, WithoutArgumentsTheWindowStays)
+{
+    const OptionsResult result = parse({});
+
+    EXPECT_EQ(result.exit_code, -1);
+    EXPECT_FALSE(result.options.IsScript());
+    EXPECT_EQ(result.options.locale, u"en"_s);
+    EXPECT_TRUE(result.options.menus.isEmpty());
+}
+
+TEST(Options, AllAreTaken)
+{
+    const OptionsResult result
+        = parse({u"--keys"_s, u"Ctrl+S,Alt+F"_s, u"--screenshots"_s, u"out"_s, u"--locale"_s, u"de"_s,
+                 u"--menus"_s, u"my.json"_s, u"--demo"_s, u"tour"_s});
+
+    EXPECT_EQ(result.exit_code, -1);
+    EXPECT_EQ(result.options.keys.size(), 2);
+    EXPECT_EQ(result.options.screenshots, u"out"_s);
+    EXPECT_EQ(result.options.locale, u"de"_s);
+    EXPECT_EQ(result.options.menus, u"my.json"_s);
+    EXPECT_EQ(result.options.demo, u"tour"_s);
+}
+
+TEST(Options, KeysPicturesAndTourAreScripts)
+{
+    EXPECT_TRUE(parse({u"--keys=F1"_s}).options.IsScript());
+    EXPECT_TRUE(parse({u"--screenshots=out"_s}).options.IsScript());
+    EXPECT_TRUE(parse({u"--demo=out"_s}).options.IsScript());
+}
+
+TEST(Options, JapaneseIsALocale)
+{
+    const OptionsResult result = parse({u"--locale=ja"_s});
+
+    EXPECT_EQ(result.exit_code, -1);
+    EXPECT_EQ(result.options.locale, u"ja"_s);
+}
+
+TEST(Options, HelpNamesEveryOptionAndEndsWithZero)
+{
+    const OptionsResult result = parse({u"--help"_s});
+
+    EXPECT_EQ(result.exit_code, 0);
+    for (const QString& option : {u"--keys"_s, u"--screenshots"_s, u"--demo"_s, u"--locale"_s, u"--menus"_s})
+        EXPECT_TRUE(result.message.contains(option)) << option.toStdString();
+}
+
+class BadArguments : public testing::TestWithParam<BadRow>
+{ };
+
+TEST_P(BadArguments, EndWithTwoAndOneSentence)
+{
+    const OptionsResult result = parse(GetParam().arguments);
+
+    EXPECT_EQ(result.exit_code, 2);
+    EXPECT_EQ(result.message, QString::fromLatin1(GetParam().sentence));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Options, BadArguments,
+    testing::Values(BadRow{"UnknownOption", {u"--blur"_s}, "Unknown option 'blur'."},
+                    BadRow{"MissingValue", {u"--keys"_s}, "Missing value after '--keys'."},
+                    BadRow{"UnknownKey", {u"--keys=Ctrl+Wobble"_s}, "\"Ctrl+Wobble\" names no key."},
+                    BadRow{"UnknownLocale",
+                           {u"--locale=xx"_s},
+                           "There is no translation into \"xx\"; there are de, en and ja."},
+                    BadRow{"EmptyKeyInAList", {u"--keys=Ctrl+S,,Alt+F"_s}, "\"\" names no key."},
+                    BadRow{"CommaAsAKey", {u"--keys=Ctrl+,"_s}, "\"Ctrl+\" names no key."},
+                    BadRow{"EmptyKeys", {u"--keys"_s, u""_s}, "Missing value after '--keys'."},
+                    BadRow{"EmptyFolder", {u"--demo="_s}, "Missing value after '--demo'."},
+                    BadRow{"EmptyFile", {u"--menus"_s, u""_s}, "Missing value after '--menus'."},
+                    BadRow{"Positional", {u"picture.png"_s}, "\"picture.png\" is no option."}),
+    [](const auto& row) { return row.param.name; });
