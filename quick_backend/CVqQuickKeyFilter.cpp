@@ -59,6 +59,11 @@ CVqQuickKeyFilter::CVqQuickKeyFilter(CVqQuickMenu* menu, QQuickWindow* window, Q
 
 CVqQuickKeyFilter::~CVqQuickKeyFilter() = default;
 
+CVqQuickMenu* CVqQuickKeyFilter::Menu() const
+{
+    return m_menu.data();
+}
+
 void CVqQuickKeyFilter::SetMenu(CVqQuickMenu* menu)
 {
     if (menu == m_menu)

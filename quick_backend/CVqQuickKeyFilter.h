@@ -1,8 +1,8 @@
 #pragma once
 
-// QML: MenuKeys { menu: ...; window: ...; opensBar: true; onBarRequested: ...; onMnemonicPressed: row => ...
-// }. MenuBar.qml has one already. Signal fired(id, keyText, nanoseconds) tells of each command that a key
-// ran.
+// QML: MenuKeys, with properties menu, window and opensBar, and signals barRequested() and
+// mnemonicPressed(row). MenuBar.qml has one already. Signal fired(id, keyText, nanoseconds) tells of each
+// command that a key ran.
 
 #include "arbor_quick_backend_export.h"
 #include "quick_backend/VqVirtualKeys.h"
@@ -42,7 +42,7 @@ public:
     CVqQuickKeyFilter(CVqQuickMenu* menu, QQuickWindow* window, QObject* parent = nullptr);
     ~CVqQuickKeyFilter() override;
 
-    CVqQuickMenu* Menu() const { return m_menu.data(); }
+    CVqQuickMenu* Menu() const;
     void SetMenu(CVqQuickMenu* menu);
 
     QQuickWindow* Window() const { return m_window; }

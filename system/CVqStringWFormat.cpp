@@ -167,7 +167,7 @@ std::string digits_of(unsigned long long value, int base, const SConversion& con
     if (value == 0 && conversion.m_iPrecision == 0)
         return {};
     char buffer[32];
-    std::string digits(buffer, std::to_chars(std::begin(buffer), std::end(buffer), value, base).ptr);
+    const std::string digits(buffer, std::to_chars(std::begin(buffer), std::end(buffer), value, base).ptr);
     const auto wanted = static_cast<std::size_t>(std::max(conversion.m_iPrecision, 0));
     return digits.size() < wanted ? std::string(wanted - digits.size(), '0') + digits : digits;
 }

@@ -44,7 +44,7 @@ public:
     }
 
 private:
-    void indent() { m_bytes.append(static_cast<qsizetype>(4 * std::min(m_ends.size(), max_indent)), ' '); }
+    void indent() { m_bytes.append(4 * static_cast<qsizetype>(std::min(m_ends.size(), max_indent)), ' '); }
 
     void begin_line(vq_uint32 index)
     {
