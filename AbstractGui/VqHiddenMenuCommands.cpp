@@ -1,20 +1,13 @@
 #include "AbstractGui/VqHiddenMenuCommands.h"
 
-#include "system/CVqStringW.h"
+#include "AbstractGui/VqHiddenStores.h"
 
 #include <algorithm>
-#include <map>
-#include <string>
-#include <string_view>
 
 namespace {
 
 using Text = std::basic_string<vq_wchar>;
 using TextView = std::basic_string_view<vq_wchar>;
-using HiddenCommands = std::map<CVqStringW, bool>;
-
-// Made when the module is loaded, before anybody can ask.
-HiddenCommands hidden_commands;
 
 TextView without_arguments(TextView command)
 {
@@ -24,25 +17,11 @@ TextView without_arguments(TextView command)
     return command;
 }
 
-Text owner_prefix(const vq_wchar* name)
-{
-    return Text(VqView(name)) + VQ_TEXT('@');
-}
-
 CVqStringW command_key(const vq_wchar* name, const vq_wchar* command)
 {
-    Text key = owner_prefix(name);
-    key += without_arguments(VqView(command));
-    std::replace(key.begin(), key.end(), VQ_TEXT(' '), VQ_TEXT('_'));
+    Text key = VqHiddenKey(VqView(name), without_arguments(VqView(command)));
+    std::ranges::replace(key, VQ_TEXT(' '), VQ_TEXT('_'));
     return CVqStringW(key);
-}
-
-void set_all_of_owner(const vq_wchar* name, bool hidden)
-{
-    const Text prefix = owner_prefix(name);
-    for (auto& [key, value] : hidden_commands)
-        if (key.View().starts_with(prefix))
-            value = hidden;
 }
 
 }
@@ -52,14 +31,13 @@ int VQ_SetMenuCommandAsHidden(const vq_wchar* name, const vq_wchar* command, boo
     if (!name)
         return -9;
     if (command)
-        hidden_commands[command_key(name, command)] = hidden;
+        hidden_menu_commands[command_key(name, command)] = hidden;
     else
-        set_all_of_owner(name, hidden);
+        VqSetAllOfOwner(hidden_menu_commands, VqView(name), hidden);
     return 0;
 }
 
 bool VQ_IsMenuCommandSetAsHidden(const vq_wchar* name, const vq_wchar* command)
 {
-    const auto found = hidden_commands.find(command_key(name, command));
-    return found != hidden_commands.end() && found->second;
+    return VqIsHiddenIn(hidden_menu_commands, command_key(name, command));
 }

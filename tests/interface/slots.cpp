@@ -4,6 +4,7 @@
 #include "AbstractGui/CVqAbstractMenu.h"
 #include "AbstractGui/CVqMenuItem.h"
 #include "AbstractGui/IVqMenuBase.h"
+#include "AbstractGui/SVqToolbarButtonHiddenCallback.h"
 
 template <typename Class>
 struct Slots : Class
@@ -20,3 +21,4 @@ template struct Slots<CVqAbstractMenu::IVqVisitorData>;
 template struct Slots<CVqAbstractMenu::SVqManipulators>;
 template struct Slots<CVqMenuItem>;
 template struct Slots<IVqMenuBase>;
+template struct Slots<SVqToolbarButtonHiddenCallback>;

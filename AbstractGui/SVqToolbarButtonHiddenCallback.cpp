@@ -1,0 +1,3 @@
+#include "AbstractGui/SVqToolbarButtonHiddenCallback.h"
+
+SVqToolbarButtonHiddenCallback::~SVqToolbarButtonHiddenCallback() = default;
