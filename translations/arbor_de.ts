@@ -189,4 +189,70 @@
         <translation>Rollen</translation>
     </message>
 </context>
+<context>
+    <name>DelayedProgressWndBase</name>
+    <message>
+        <source>Progress: %d%%</source>
+        <translation>Fortschritt: %d&#xa0;%%</translation>
+    </message>
+    <message>
+        <source>Progress: %3.2f%%</source>
+        <translation>Fortschritt: %3.2f&#xa0;%%</translation>
+    </message>
+    <message>
+        <source>Time remaining: %d hour(s)</source>
+        <translation>Verbleibende Zeit: %d Stunde(n)</translation>
+    </message>
+    <message>
+        <source>Time remaining: %d minute(s)</source>
+        <translation>Verbleibende Zeit: %d Minute(n)</translation>
+    </message>
+    <message>
+        <source>Time remaining: %d seconds</source>
+        <translation>Verbleibende Zeit: %d Sekunden</translation>
+    </message>
+    <message>
+        <source>Finalizing...</source>
+        <translation>Wird abgeschlossen ...</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressPanel</name>
+    <message>
+        <source>%1 elapsed</source>
+        <translation>%1 vergangen</translation>
+    </message>
+    <message>
+        <source>almost done</source>
+        <translation>fast fertig</translation>
+    </message>
+    <message>
+        <source>about %1 left</source>
+        <translation>noch etwa %1</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1&#xa0;s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1&#xa0;min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1&#xa0;h</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1&#xa0;h %2&#xa0;min</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>Wird abgebrochen ...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
 </TS>

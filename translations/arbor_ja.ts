@@ -189,4 +189,70 @@
         <translation>ScrollLock</translation>
     </message>
 </context>
+<context>
+    <name>DelayedProgressWndBase</name>
+    <message>
+        <source>Progress: %d%%</source>
+        <translation>進行状況: %d%%</translation>
+    </message>
+    <message>
+        <source>Progress: %3.2f%%</source>
+        <translation>進行状況: %3.2f%%</translation>
+    </message>
+    <message>
+        <source>Time remaining: %d hour(s)</source>
+        <translation>残り時間: %d 時間</translation>
+    </message>
+    <message>
+        <source>Time remaining: %d minute(s)</source>
+        <translation>残り時間: %d 分</translation>
+    </message>
+    <message>
+        <source>Time remaining: %d seconds</source>
+        <translation>残り時間: %d 秒</translation>
+    </message>
+    <message>
+        <source>Finalizing...</source>
+        <translation>完了処理中...</translation>
+    </message>
+</context>
+<context>
+    <name>ProgressPanel</name>
+    <message>
+        <source>%1 elapsed</source>
+        <translation>経過 %1</translation>
+    </message>
+    <message>
+        <source>almost done</source>
+        <translation>まもなく完了</translation>
+    </message>
+    <message>
+        <source>about %1 left</source>
+        <translation>残り約 %1</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 秒</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 時間</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 時間 %2 分</translation>
+    </message>
+    <message>
+        <source>Cancelling...</source>
+        <translation>キャンセルしています...</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+</context>
 </TS>

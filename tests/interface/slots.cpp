@@ -5,15 +5,14 @@
 #include "AbstractGui/CVqMenuItem.h"
 #include "AbstractGui/IVqMenuBase.h"
 #include "AbstractGui/SVqToolbarButtonHiddenCallback.h"
+#include "DelayedProgressWndBase.h"
+#include "IVqProgressView.h"
 
 template <typename Class>
 struct Slots : Class
 {
-    Slots();
+    using Class::Class;
 };
-
-template <typename Class>
-Slots<Class>::Slots() = default;
 
 template struct Slots<CVqAbstractBitmapPool>;
 template struct Slots<CVqAbstractMenu>;
@@ -21,4 +20,6 @@ template struct Slots<CVqAbstractMenu::IVqVisitorData>;
 template struct Slots<CVqAbstractMenu::SVqManipulators>;
 template struct Slots<CVqMenuItem>;
 template struct Slots<IVqMenuBase>;
+template struct Slots<IVqProgressView>;
+template struct Slots<QmlSupport::CVqDelayedProgressWndBase>;
 template struct Slots<SVqToolbarButtonHiddenCallback>;

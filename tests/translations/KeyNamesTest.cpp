@@ -1,35 +1,16 @@
 #include "system/VqText.h"
 #include "system/VqTranslation.h"
+#include "tests/support/ScopedCatalogue.h"
+#include "tests/translations/Catalogues.h"
 #include "translations/key_names.h"
-
-#include <QCoreApplication>
-#include <QDir>
-#include <QDirIterator>
-#include <QFile>
-#include <QRegularExpression>
-#include <QTranslator>
-#include <QXmlStreamReader>
 
 #include <gtest/gtest.h>
 
-#include <map>
-#include <set>
-#include <string>
-#include <utility>
+using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A text and its comment.
-using Source = std::pair<std::string, std::string>;
-
-const QString sources_root = QStringLiteral(ARBOR_SOURCES);
-
-QString content_of(const QString& path)
-{
-    QFile file(path);
-    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << path.toStdString();
-    return QString::fromUtf8(file.readAll());
-}
+const QString g_context = u"AbstractGui\\CVqAbstractMenu"_s;
 
 std::set<Source> table()
 {
@@ -39,54 +20,12 @@ std::set<Source> table()
     return rows;
 }
 
-/// The literals of calls, and of the rows of the table of key labels that are not written as they stand.
-std::set<Source> literals_in(const QString& code)
-{
-    static const QRegularExpression wanted(QStringLiteral(
-        R"x((?:VQ_GetTranslation\(|VqAccelTranslation\(|Row\{\d+,)\s*VQ_TEXT\("([^"]*)"\)(?:,\s*VQ_TEXT\("([^"]*)"\))?(?!,\s*literal))x"));
-    std::set<Source> found;
-    for (auto match = wanted.globalMatch(code); match.hasNext();) {
-        const auto call = match.next();
-        found.emplace(call.captured(1).toStdString(), call.captured(2).toStdString());
-    }
-    return found;
-}
-
 std::set<Source> literals_in_sources()
 {
     std::set<Source> found;
-    for (const char* folder : {"AbstractGui", "qml", "offscreen", "quick_backend", "gallery"}) {
-        QDirIterator files(sources_root + u'/' + QLatin1StringView(folder),
-                           {QStringLiteral("*.cpp"), QStringLiteral("*.h")}, QDir::Files,
-                           QDirIterator::Subdirectories);
-        while (files.hasNext())
-            found.merge(literals_in(content_of(files.next())));
-    }
+    for (const char* folder : {"AbstractGui", "qml", "offscreen", "quick_backend", "gallery"})
+        found.merge(LiteralsIn(QLatin1StringView(folder)));
     return found;
-}
-
-QStringList catalogues()
-{
-    return QDir(sources_root + QStringLiteral("/translations")).entryList({QStringLiteral("*.ts")});
-}
-
-std::map<Source, QString> entries_of(const QString& catalogue)
-{
-    std::map<Source, QString> entries;
-    Source source;
-    QXmlStreamReader xml(content_of(sources_root + QStringLiteral("/translations/") + catalogue));
-    while (!xml.atEnd()) {
-        if (xml.readNext() != QXmlStreamReader::StartElement)
-            continue;
-        if (xml.name() == u"source")
-            source = {xml.readElementText().toStdString(), ""};
-        else if (xml.name() == u"comment")
-            source.second = xml.readElementText().toStdString();
-        else if (xml.name() == u"translation")
-            entries[source] = xml.readElementText();
-    }
-    EXPECT_FALSE(xml.hasError());
-    return entries;
 }
 
 QString shown(const vq_wchar* text, const vq_wchar* comment)
@@ -94,20 +33,6 @@ QString shown(const vq_wchar* text, const vq_wchar* comment)
     const auto answer = VqView(VQ_GetTranslation(text, comment, "AbstractGui\\CVqAbstractMenu"));
     return QString(reinterpret_cast<const QChar*>(answer.data()), static_cast<qsizetype>(answer.size()));
 }
-
-/// Installs a built catalogue for the time of its scope.
-class Language
-{
-public:
-    explicit Language(const QString& name)
-    {
-        EXPECT_TRUE(m_translator.load(QStringLiteral(ARBOR_CATALOGUES "/arbor_") + name));
-        QCoreApplication::installTranslator(&m_translator);
-    }
-
-private:
-    QTranslator m_translator;
-};
 
 }
 
@@ -118,11 +43,10 @@ TEST(KeyNames, TheTableHoldsEveryLiteralOfTheSourcesAndNoOther)
 
 TEST(KeyNames, EveryCatalogueTranslatesTheTable)
 {
-    ASSERT_EQ(catalogues(), (QStringList{QStringLiteral("arbor_de.ts"), QStringLiteral("arbor_ja.ts")}));
-    for (const QString& catalogue : catalogues()) {
-        SCOPED_TRACE(catalogue.toStdString());
+    for (const auto& [name, catalogue] : Catalogues()) {
+        SCOPED_TRACE(name);
         std::set<Source> translated;
-        for (const auto& [source, text] : entries_of(catalogue)) {
+        for (const auto& [source, text] : EntriesOf(catalogue, g_context)) {
             EXPECT_FALSE(text.isEmpty()) << source.first;
             translated.insert(source);
         }
@@ -132,12 +56,12 @@ TEST(KeyNames, EveryCatalogueTranslatesTheTable)
 
 TEST(KeyNames, NamesThatParsingAsksForAreLowerCaseWordsInEveryCatalogue)
 {
-    for (const QString& catalogue : catalogues()) {
-        SCOPED_TRACE(catalogue.toStdString());
-        auto entries = entries_of(catalogue);
-        for (const Source& name :
+    for (const auto& [name, catalogue] : Catalogues()) {
+        SCOPED_TRACE(name);
+        auto entries = EntriesOf(catalogue, g_context);
+        for (const Source& modifier :
              {Source("ctrl", ""), Source("alt", "keyboard key"), Source("shift", "keyboard key")}) {
-            const QString text = entries[name];
+            const QString text = entries[modifier];
             EXPECT_EQ(text, text.toLower());
             EXPECT_FALSE(text.contains(u'+') || text.contains(u' ') || text.isEmpty());
         }
@@ -146,9 +70,9 @@ TEST(KeyNames, NamesThatParsingAsksForAreLowerCaseWordsInEveryCatalogue)
 
 TEST(KeyNames, ModifiersAreReadAsTheyAreShownInEveryCatalogue)
 {
-    for (const QString& catalogue : catalogues()) {
-        SCOPED_TRACE(catalogue.toStdString());
-        auto entries = entries_of(catalogue);
+    for (const auto& [name, catalogue] : Catalogues()) {
+        SCOPED_TRACE(name);
+        auto entries = EntriesOf(catalogue, g_context);
         EXPECT_EQ(entries[Source("Ctrl", "")].toLower(), entries[Source("ctrl", "")]);
         EXPECT_EQ(entries[Source("Alt", "keyboard key")].toLower(), entries[Source("alt", "keyboard key")]);
         EXPECT_EQ(entries[Source("Shift", "keyboard key")].toLower(),
@@ -158,25 +82,24 @@ TEST(KeyNames, ModifiersAreReadAsTheyAreShownInEveryCatalogue)
 
 TEST(KeyNames, GermanNamesShow)
 {
-    const Language german(QStringLiteral("de"));
+    const ScopedCatalogue german(CompiledCatalogue(u"de"_s));
 
-    EXPECT_EQ(shown(VQ_TEXT("Ctrl"), nullptr), QStringLiteral("Strg"));
-    EXPECT_EQ(shown(VQ_TEXT("Shift"), VQ_TEXT("keyboard key")), QStringLiteral("Umschalt"));
-    EXPECT_EQ(shown(VQ_TEXT("PageUp"), VQ_TEXT("PageUp keyboard key")), QStringLiteral("Bild auf"));
+    EXPECT_EQ(shown(VQ_TEXT("Ctrl"), nullptr), u"Strg"_s);
+    EXPECT_EQ(shown(VQ_TEXT("Shift"), VQ_TEXT("keyboard key")), u"Umschalt"_s);
+    EXPECT_EQ(shown(VQ_TEXT("PageUp"), VQ_TEXT("PageUp keyboard key")), u"Bild auf"_s);
 }
 
 TEST(KeyNames, AnEntryWithoutACommentAnswersForAnyComment)
 {
-    const Language german(QStringLiteral("de"));
+    const ScopedCatalogue german(CompiledCatalogue(u"de"_s));
 
-    EXPECT_EQ(shown(VQ_TEXT("Ctrl"), VQ_TEXT("no such comment")), QStringLiteral("Strg"));
+    EXPECT_EQ(shown(VQ_TEXT("Ctrl"), VQ_TEXT("no such comment")), u"Strg"_s);
 }
 
 TEST(KeyNames, JapaneseNamesShow)
 {
-    const Language japanese(QStringLiteral("ja"));
+    const ScopedCatalogue japanese(CompiledCatalogue(u"ja"_s));
 
-    EXPECT_EQ(shown(VQ_TEXT("Space"), VQ_TEXT("Space keyboard key")),
-              QStringLiteral("\u30B9\u30DA\u30FC\u30B9"));
-    EXPECT_EQ(shown(VQ_TEXT("Ctrl"), nullptr), QStringLiteral("Ctrl"));
+    EXPECT_EQ(shown(VQ_TEXT("Space"), VQ_TEXT("Space keyboard key")), u"\u30B9\u30DA\u30FC\u30B9"_s);
+    EXPECT_EQ(shown(VQ_TEXT("Ctrl"), nullptr), u"Ctrl"_s);
 }

@@ -1,0 +1,3 @@
+#include "IVqProgressView.h"
+
+IVqProgressView::~IVqProgressView() = default;
