@@ -80,14 +80,22 @@ function(arbor_tests name)
   gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120 ENVIRONMENT "${environment}")
 endfunction()
 
-# arbor_bench(<name> DEPENDS <targets>...): the benchmark program of <name>.cpp.
+# arbor_bench(<name> [DISPLAY] DEPENDS <targets>... [SOURCES <name>...])
+# The benchmark program of <name>.cpp and SOURCES. DISPLAY: it needs OpenGL on an X display; its folder tells
+# tools/bench so.
 function(arbor_bench name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DEPENDS")
-  add_executable(${name} ${name}.cpp)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "" "DEPENDS;SOURCES")
+  set(sources ${name} ${arg_SOURCES})
+  list(TRANSFORM sources APPEND ".cpp")
+  add_executable(${name} ${sources})
   target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR})
   target_link_libraries(${name} PRIVATE benchmark::benchmark ${arg_DEPENDS})
   arbor_flags(${name})
-  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/bench)
+  set(folder bench)
+  if(arg_DISPLAY)
+    set(folder bench/display)
+  endif()
+  set_target_properties(${name} PROPERTIES RUNTIME_OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/${folder})
   add_dependencies(bench_programs ${name})
 endfunction()
 

@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
 """bench_report.py FLOORS RESULT...: medians and ratios of Google Benchmark's JSON, against the floors.
 
-A benchmark is named Case/Who or Case/Who/size. FLOORS maps "Case/size vs Peer" (a time) and "Case/size vs Peer
-counter" to the highest ratio of Arbor to Peer. Ends with 1 if a floor is missed."""
+A benchmark is named Case/Who or Case/Who/size. What Google Benchmark appends tells which time counts: the real or
+manual one where it says so, otherwise the processor's. FLOORS maps "Case/size vs Peer" (a time) and "Case/size vs
+Peer counter" to the highest ratio of Arbor to Peer. Ends with 1 if a floor is missed."""
 
 import json
 import statistics
@@ -14,6 +15,8 @@ NANOSECONDS = {"ns": 1, "us": 1e3, "ms": 1e6, "s": 1e9}
 # What Google Benchmark writes beside the counters of a program.
 OWN_KEYS = {"family_index", "per_family_instance_index", "repetitions", "repetition_index", "threads", "iterations",
             "real_time", "cpu_time"}
+# The end of a benchmark's name, and which time it stands for.
+TIMES = {"real_time": "real_time", "manual_time": "real_time", "process_time": "cpu_time"}
 
 
 def samples(files):
@@ -25,10 +28,11 @@ def samples(files):
             if run["run_type"] != "iteration" or run.get("error_occurred"):
                 continue
             case, who, *size = run["run_name"].split("/")
-            case = "/".join([case, *(part for part in size if ":" not in part)])
+            case = "/".join([case, *(part for part in size if ":" not in part and part not in TIMES)])
+            time = run[TIMES.get(size[-1] if size else "", "cpu_time")]
             counters = {key: value for key, value in run.items()
                         if key not in OWN_KEYS and isinstance(value, (int, float))}
-            values = {"": run["cpu_time"] * NANOSECONDS[run["time_unit"]], **counters}
+            values = {"": time * NANOSECONDS[run["time_unit"]], **counters}
             for counter, value in values.items():
                 found.setdefault((case, counter), {}).setdefault(who, []).append(value)
     return found

@@ -47,6 +47,14 @@ class BenchReport(unittest.TestCase):
         self.assertEqual([line[:3] + line[-1:] for line in lines[1:3]],
                          [["Hit/50", "vs", "Peer", "0.250"], ["Hit/500", "vs", "Peer", "0.500"]])
 
+    def test_takes_the_time_that_the_name_tells(self):
+        for kind, ratio in (("real_time", "0.500"), ("manual_time", "0.500"), ("process_time", "0.250"),
+                            ("process_time/real_time", "0.500")):
+            with self.subTest(kind):
+                lines, _ = self.report({}, run(f"Grab/Arbor/8/{kind}", 1, real_time=3),
+                                       run(f"Grab/Peer/8/{kind}", 4, real_time=6))
+                self.assertEqual(lines[1][:3] + lines[1][-1:], ["Grab/8", "vs", "Peer", ratio])
+
     def test_compares_counters_that_both_have(self):
         lines, _ = self.report({"Build vs Peer bytes_per_item": 0.4}, run("Build/Arbor", 1, bytes_per_item=100),
                                run("Build/Peer", 1, bytes_per_item=400, others=3))
