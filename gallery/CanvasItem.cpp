@@ -18,6 +18,7 @@ CanvasItem::CanvasItem(QQuickItem* parent) : QQuickPaintedItem(parent)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
     setOpaquePainting(true);
+    setActiveFocusOnTab(true);
     connect(this, &CanvasItem::LookChanged, this, [this] { update(); });
 }
 
@@ -86,8 +87,10 @@ void CanvasItem::refresh()
 {
     if (!m_document || !m_view)
         return;
+    // Compared with this canvas's own: another one, of another size, may show the same view.
     const qreal scale = geometry().Scale() * g_percent;
-    if (!qFuzzyCompare(scale, m_view->scale)) {
+    if (!qFuzzyCompare(scale, m_scale)) {
+        m_scale = scale;
         m_view->scale = scale;
         m_view->Tell();
     }

@@ -53,6 +53,7 @@ private:
 
     Document* m_document = nullptr; // not owned
     ViewState* m_view = nullptr;    // not owned
+    qreal m_scale = 0;              // percent, as told to the view last
     QColor m_desk = Qt::gray;
     QColor m_ruler_color = Qt::white;
     QColor m_ruler_ink = Qt::black;

@@ -74,6 +74,19 @@ TEST_F(CanvasItemTest, FittingThePictureTellsTheScale)
     EXPECT_DOUBLE_EQ(m_view.scale, 50);
 }
 
+TEST_F(CanvasItemTest, TwoOfDifferentSizesShareAView)
+{
+    Canvas other;
+    other.SetDocument(&m_document);
+    other.SetView(&m_view);
+
+    other.setSize(QSizeF(656, 456));
+    EXPECT_DOUBLE_EQ(m_view.scale, 50);
+    m_canvas.setSize(QSizeF(956, 656));
+
+    EXPECT_DOUBLE_EQ(m_view.scale, 75);
+}
+
 TEST_F(CanvasItemTest, ThePictureIsDrawnWithItsLayer)
 {
     m_document.SetLayerOpacity(100);
