@@ -16,7 +16,7 @@
 ///     Quick::Register::AddRegistrator([] { qmlRegisterType<CVqGuiSupport>("Shop", 1, 0, "GuiSupport"); });
 ///     Quick::Register::Init(); // once the process is ready, before the first engine
 ///
-/// One thread, that of start-up: there is no lock.
+/// There is no lock: all of it runs on one thread, that of start-up.
 namespace Quick::Register {
 
 /// Keeps a copy of `registrator` behind the others, for good; it is not called here. An empty one is kept as

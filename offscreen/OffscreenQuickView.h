@@ -45,7 +45,8 @@ public:
         Null,    ///< There is no source.
         Ready,   ///< The root item is there.
         Loading, ///< The file is on its way.
-        Error,   ///< The file cannot be used; errors() tells why, except where its root is no item.
+        Error,   ///< The file cannot be used, or the engine is gone. errors() tells what is wrong with the
+                 ///< file, except where its root is no item.
     };
     Q_ENUM(Status)
 
@@ -55,6 +56,7 @@ public:
     explicit OffscreenQuickView(QQmlEngine* engine);
     ~OffscreenQuickView() override;
 
+    /// The address that setSource() got last; empty before the first one.
     QUrl source() const;
 
     Status status() const;
@@ -84,11 +86,11 @@ public Q_SLOTS:
     /// Throws away the present root item and loads `url`; the same one loads again. An empty one only throws
     /// away, without a signal. A local file is ready, or has failed, when this returns. Not for handlers of
     /// the present root item, which would be deleted under them; it may be called while statusChanged() is
-    /// told.
+    /// emitted.
     void setSource(const QUrl& url);
 
 Q_SIGNALS:
-    /// A source loads, is ready or cannot be used. An empty one tells nothing.
+    /// A source loads, is ready or cannot be used; not emitted for an empty one.
     void statusChanged(Status status);
 
 protected:

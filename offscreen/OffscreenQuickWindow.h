@@ -19,7 +19,8 @@ class OffscreenQuickWindowPrivate;
 /// however many follow meanwhile. Drawing leaves the window's own OpenGL context current; whoever draws with
 /// another one makes that current again.
 ///
-/// Nothing reports a failure. Without a usable context no frame comes and grab() gives a null image.
+/// Nothing reports a failure. Without a usable context no frame comes and grab() gives a null image. GUI
+/// thread only.
 class ARBOR_QML_SUPPORT_EXPORT OffscreenQuickWindow : public QQuickWindow
 {
     Q_OBJECT
@@ -38,7 +39,8 @@ public:
     QImage grab() const;
 
     /// Sets the size and makes the framebuffer object anew, also when the size stays. The resize event that
-    /// this sends has the sizes the other way round: its size() is the one before.
+    /// this sends has the sizes the other way round: its size() is the one before. No context is current
+    /// afterwards.
     void resize(const QSize& size);
     void resize(int width, int height);
 
