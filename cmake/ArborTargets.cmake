@@ -57,11 +57,11 @@ function(arbor_sources target)
     PUBLIC FILE_SET HEADERS FILES ${public_headers})
 endfunction()
 
-# arbor_tests(<name> [DISPLAY] DEPENDS <targets>... SOURCES <TestFile>...)
+# arbor_tests(<name> [DISPLAY] [PREFIX <text>] DEPENDS <targets>... SOURCES <TestFile>...)
 # One test program a folder, one CTest entry a case. DISPLAY: with OpenGL on an X display, under Xvfb where
-# there is no other.
+# there is no other. PREFIX: in front of each entry's name, for a second program with the same cases.
 function(arbor_tests name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "" "DEPENDS;SOURCES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "PREFIX" "DEPENDS;SOURCES")
   set(sources ${arg_SOURCES})
   list(TRANSFORM sources APPEND ".cpp")
   add_executable(${name} ${sources})
@@ -77,7 +77,11 @@ function(arbor_tests name)
     endif()
     set_target_properties(${name} PROPERTIES ${launcher} ${PROJECT_SOURCE_DIR}/tools/with_display)
   endif()
-  gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
+  set(prefix)
+  if(arg_PREFIX)
+    set(prefix TEST_PREFIX ${arg_PREFIX})
+  endif()
+  gtest_discover_tests(${name} ${prefix} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
     PROPERTIES TIMEOUT 120 ${environment})
 endfunction()
 
