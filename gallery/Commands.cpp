@@ -69,6 +69,7 @@ void Commands::add_file_commands()
     m_actions[u"FileSample"_s] = [this](const QString& name) { m_document.Open(name); };
     m_actions[u"FileRevert"_s] = [this](const QString&) { m_document.Open(m_document.Name()); };
     m_actions[u"FileQuit"_s] = [this](const QString&) { Q_EMIT QuitRequested(); };
+    m_actions[u"FileBatchResize"_s] = [this](const QString&) { Q_EMIT PageRequested(u"ResizePage"_s); };
 }
 
 void Commands::add_edit_commands()

@@ -33,6 +33,7 @@ public:
 
 Q_SIGNALS:
     void QuitRequested();
+    void PageRequested(const QString& name);
 
 private:
     using Action = std::function<void(const QString& arguments)>;

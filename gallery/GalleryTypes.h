@@ -1,13 +1,33 @@
 #pragma once
 
-// QML: the types of the module K7.Arbor.Gallery. Session, Document and ViewState come from C++.
+// QML: the types of the module K7.Arbor.Gallery that come from C++.
 
+#include "gallery/AddressLookup.h"
 #include "gallery/CanvasItem.h"
+#include "gallery/OffscreenPicture.h"
+#include "gallery/PageHolder.h"
 #include "gallery/Session.h"
+#include "gallery/resize/BatchResize.h"
 
+#include <QJSEngine>
 #include <QtQmlIntegration>
 
 namespace Gallery {
+
+struct AddressLookupType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::AddressLookup)
+    QML_NAMED_ELEMENT(AddressLookup)
+};
+
+struct BatchResizeType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::BatchResize)
+    QML_NAMED_ELEMENT(BatchResize)
+    QML_UNCREATABLE("A session has one.")
+};
 
 struct CanvasType
 {
@@ -16,12 +36,34 @@ struct CanvasType
     QML_NAMED_ELEMENT(PictureArea)
 };
 
+struct OffscreenPictureType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::OffscreenPicture)
+    QML_NAMED_ELEMENT(OffscreenPicture)
+};
+
+struct PageHolderType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::PageHolder)
+    QML_NAMED_ELEMENT(PageHolder)
+};
+
 struct SessionType
 {
     Q_GADGET
     QML_FOREIGN(Gallery::Session)
     QML_NAMED_ELEMENT(Session)
-    QML_UNCREATABLE("The program makes the one session.")
+    QML_SINGLETON
+
+public:
+    /// The session of the program in each engine; it stays the program's own.
+    static Gallery::Session* create(QQmlEngine*, QJSEngine*)
+    {
+        QJSEngine::setObjectOwnership(Gallery::Session::OfProgram(), QJSEngine::CppOwnership);
+        return Gallery::Session::OfProgram();
+    }
 };
 
 struct DocumentType

@@ -1,5 +1,9 @@
 #include "gallery/Options.h"
 
+#include "gallery/Pages.h"
+#include "gallery/RenderOptions.h"
+#include "gallery/resize/ResizeOptions.h"
+
 #include <QCommandLineParser>
 
 using namespace Qt::StringLiterals;
@@ -25,8 +29,14 @@ void describe(QCommandLineParser& parser)
         {u"locale"_s, u"Language of labels and key names: de or en; ja for key names alone."_s, u"name"_s,
          u"en"_s},
         {u"menus"_s, u"Reads the menu from a file."_s, u"file"_s},
+        {u"qml"_s,
+         u"Reads the gallery's QML files from a folder, and again when they change, with ORV_DEVELOP_RESOURCES set."_s,
+         u"folder"_s},
+        {u"page"_s, u"Opens the window with a page: %1."_s.arg(PageNames().join(u", "_s)), u"name"_s},
         {{u"h"_s, u"help"_s}, u"Shows this help."_s},
     });
+    DescribeRenderOptions(parser);
+    DescribeResizeOptions(parser);
 }
 
 OptionsResult refuse(const QString& sentence)
@@ -50,9 +60,14 @@ OptionsResult take(const QCommandLineParser& parser)
     result.options.demo = parser.value(u"demo"_s);
     result.options.locale = parser.value(u"locale"_s);
     result.options.menus = parser.value(u"menus"_s);
+    result.options.qml = parser.value(u"qml"_s);
+    result.options.page = parser.value(u"page"_s);
     if (!QStringList{u"de"_s, u"en"_s, u"ja"_s}.contains(result.options.locale))
         return refuse(
             u"There is no translation into \"%1\"; there are de, en and ja."_s.arg(result.options.locale));
+    if (!result.options.page.isEmpty() && !PageNames().contains(result.options.page))
+        return refuse(
+            u"There is no page \"%1\"; there are %2."_s.arg(result.options.page, PageNames().join(u", "_s)));
     return result;
 }
 
@@ -68,6 +83,30 @@ OptionsResult take_keys(const QCommandLineParser& parser, OptionsResult result)
     return result;
 }
 
+OptionsResult take_render(const QCommandLineParser& parser, OptionsResult result)
+{
+    if (result.exit_code >= 0)
+        return result;
+    QString error;
+    const std::optional<RenderJob> job = ReadRenderJob(parser, error);
+    if (!job)
+        return refuse(error);
+    result.options.render = *job;
+    return result;
+}
+
+OptionsResult take_resize(const QCommandLineParser& parser, OptionsResult result)
+{
+    if (result.exit_code >= 0)
+        return result;
+    QString error;
+    const std::optional<ResizeJob> job = ReadResizeJob(parser, error);
+    if (!job)
+        return refuse(error);
+    result.options.resize = *job;
+    return result;
+}
+
 }
 
 OptionsResult ParseOptions(const QStringList& arguments)
@@ -78,12 +117,10 @@ OptionsResult ParseOptions(const QStringList& arguments)
         return refuse(parser.errorText());
     if (parser.isSet(u"help"_s))
         return {{}, 0, parser.helpText()};
-    if (!parser.positionalArguments().isEmpty())
-        return refuse(u"\"%1\" is no option."_s.arg(parser.positionalArguments().constFirst()));
     const QString empty = option_without_value(parser);
     if (!empty.isEmpty())
         return refuse(u"Missing value after '--%1'."_s.arg(empty));
-    return take_keys(parser, take(parser));
+    return take_resize(parser, take_render(parser, take_keys(parser, take(parser))));
 }
 
 }

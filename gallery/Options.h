@@ -1,6 +1,8 @@
 #pragma once
 
 #include "gallery/KeyPress.h"
+#include "gallery/RenderJob.h"
+#include "gallery/resize/ResizeJob.h"
 
 #include <QStringList>
 
@@ -14,6 +16,10 @@ struct Options
     QString demo;         ///< Folder for pictures of the tour; empty for none.
     QString locale;       ///< "de" or "en" for labels and key names, "ja" for key names alone.
     QString menus;        ///< A menu file in place of the built-in one; empty for none.
+    QString qml;          ///< A copy of gallery/ for the developer's mode; empty for the source tree.
+    QString page;         ///< The page that the window opens with; empty for the first.
+    RenderJob render;     ///< A picture that is wanted instead of a window; without a file for none.
+    ResizeJob resize;     ///< Images that are to be scaled instead of a window; without folders for none.
 
     /// The window is only there to be scripted: the program ends by itself.
     bool IsScript() const { return !keys.isEmpty() || !screenshots.isEmpty() || !demo.isEmpty(); }

@@ -1,6 +1,7 @@
 #include "gallery/Session.h"
 
 #include "gallery/MenuPath.h"
+#include "gallery/Pages.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,6 +12,8 @@ namespace {
 constexpr qint64 g_micro = 1000; // nanoseconds
 constexpr vq_uint32 g_any_status = 0xFF00;
 constexpr vq_uint32 g_most_swatches = 64;
+
+Session* g_of_program = nullptr;
 
 QHash<vq_uint32, MenuRole> build(CVqAbstractMenu& menu, const MenuDocument& document)
 {
@@ -36,11 +39,48 @@ Session::Session(const MenuDocument& document, QObject* parent)
     : QObject(parent),
       m_commands(m_document, m_view),
       m_marks(m_menu, build(m_menu, document)),
-      m_context_menu(document.context.empty() ? 0 : document.context.front().id)
+      m_context_menu(document.context.empty() ? 0 : document.context.front().id),
+      m_page(PageNames().constFirst())
 {
+    g_of_program = this;
     m_menu.SetCmdHandler([this](vq_uint32 id) { run(id); });
     connect(&m_commands, &Commands::QuitRequested, this, &Session::QuitRequested);
+    connect(&m_commands, &Commands::PageRequested, this, &Session::SetPage);
     connect(&m_document, &Document::Changed, this, [this] { refresh_entries({}); });
+}
+
+Session::~Session()
+{
+    if (g_of_program == this)
+        g_of_program = nullptr;
+}
+
+Session* Session::OfProgram()
+{
+    return g_of_program;
+}
+
+QStringList Session::Pages()
+{
+    return PageNames();
+}
+
+QString Session::titleOf(const QString& page)
+{
+    return PageTitle(page);
+}
+
+void Session::SetPage(const QString& name)
+{
+    if (name == m_page || !PageNames().contains(name))
+        return;
+    m_page = name;
+    Q_EMIT PageChanged();
+}
+
+QUrl Session::PageUrl() const
+{
+    return Gallery::PageUrl(m_page);
 }
 
 void Session::choose(const QString& command)

@@ -4,17 +4,25 @@
 #include "gallery/Document.h"
 #include "gallery/MenuMarks.h"
 #include "gallery/ViewState.h"
+#include "gallery/resize/BatchResize.h"
 #include "quick_backend/CVqQuickMenu.h"
+
+#include <QUrl>
 
 namespace Gallery {
 
-/// One run of the gallery: the picture, the view, the menu that acts on them, and what the status line tells.
+/// One run of the gallery: the picture, the view, the menu that acts on them, the page that shows, the batch
+/// resize, and what the status line tells.
 class Session : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(Gallery::Document* document READ GetDocument CONSTANT)
     Q_PROPERTY(Gallery::ViewState* view READ View CONSTANT)
     Q_PROPERTY(CVqQuickMenu* menu READ Menu CONSTANT)
+    Q_PROPERTY(Gallery::BatchResize* batchResize READ GetBatchResize CONSTANT)
+    Q_PROPERTY(QStringList pages READ Pages CONSTANT)
+    Q_PROPERTY(QString page READ Page WRITE SetPage NOTIFY PageChanged)
+    Q_PROPERTY(QUrl pageUrl READ PageUrl NOTIFY PageChanged)
     Q_PROPERTY(QString lastCommand READ LastCommand NOTIFY Told)
     Q_PROPERTY(QString lastKey READ LastKey NOTIFY Told)
     Q_PROPERTY(QString lastTime READ LastTime NOTIFY Told)
@@ -22,10 +30,30 @@ class Session : public QObject
 public:
     /// Builds the menu of `document`.
     explicit Session(const MenuDocument& document, QObject* parent = nullptr);
+    ~Session() override;
+
+    /// The session of the program, which QML knows as the singleton Session: the one made last, while it
+    /// lives. Null without one.
+    static Session* OfProgram();
 
     Document* GetDocument() { return &m_document; }
     ViewState* View() { return &m_view; }
     CVqQuickMenu* Menu() { return &m_menu; }
+    BatchResize* GetBatchResize() { return &m_batch_resize; }
+
+    /// The names of all pages, in their order.
+    static QStringList Pages();
+    /// The title of a page; empty for an unknown name.
+    Q_INVOKABLE static QString titleOf(const QString& page);
+    /// The page that shows, the first to begin with.
+    const QString& Page() const { return m_page; }
+    /// An unknown name changes nothing.
+    void SetPage(const QString& name);
+    /// The compiled resource of the page that shows.
+    QUrl PageUrl() const;
+
+    /// Asks whoever shows the present page to load it anew.
+    void AskReload() { Q_EMIT reloadAsked(); }
 
     /// The command that ran last; empty before the first.
     const QString& LastCommand() const { return m_last_command; }
@@ -54,6 +82,8 @@ public:
 Q_SIGNALS:
     void Told();
     void QuitRequested();
+    void PageChanged();
+    void reloadAsked();
 
 private:
     void run(vq_uint32 id);
@@ -64,7 +94,9 @@ private:
     Commands m_commands;
     CVqQuickMenu m_menu;
     MenuMarks m_marks;
+    BatchResize m_batch_resize;
     vq_uint32 m_context_menu = 0;
+    QString m_page;
     vq_uint32 m_last_id = 0;
     QString m_last_command;
     QString m_last_key;

@@ -6,10 +6,9 @@ import QtQuick
 Rectangle {
     id: panel
 
-    required property Session session
-    readonly property Document document: session.document
-    readonly property ViewState view: session.view
-    readonly property string layerModeLabel: session.label("LayerBlend(" + document.layerMode + ")")
+    readonly property Document document: Session.document
+    readonly property ViewState view: Session.view
+    readonly property string layerModeLabel: Session.label("LayerBlend(" + document.layerMode + ")")
         || document.layerMode
 
     color: Theme.panel
@@ -37,21 +36,25 @@ Rectangle {
                 border.color: Theme.line
 
                 Row {
+                    id: bars
+
                     anchors { fill: parent; margins: 3 }
 
                     Repeater {
                         model: panel.document.histogram
 
                         Item {
+                            id: bar
+
                             required property real modelData
 
-                            width: parent.width / 64
-                            height: parent.height
+                            width: bars.width / 64
+                            height: bars.height
 
                             Rectangle {
-                                anchors.bottom: parent.bottom
-                                width: parent.width
-                                height: Math.sqrt(parent.modelData) * parent.height
+                                anchors.bottom: bar.bottom
+                                width: bar.width
+                                height: Math.sqrt(bar.modelData) * bar.height
                                 color: Theme.softInk
                                 opacity: 0.75
                             }
@@ -97,7 +100,7 @@ Rectangle {
                 spacing: 6
 
                 Repeater {
-                    model: panel.session.swatches()
+                    model: Session.swatches()
 
                     Rectangle {
                         id: swatch
@@ -114,7 +117,7 @@ Rectangle {
                         Accessible.name: modelData
 
                         TapHandler {
-                            onTapped: panel.session.choose("ColorForeground(" + swatch.modelData + ")")
+                            onTapped: Session.choose("ColorForeground(" + swatch.modelData + ")")
                         }
                     }
                 }

@@ -7,10 +7,9 @@ import QtQuick.Layouts
 Rectangle {
     id: line
 
-    required property Session session
-    readonly property ViewState view: session.view
-    readonly property string command: session.lastCommand
-    readonly property string label: session.label(command)
+    readonly property ViewState view: Session.view
+    readonly property string command: Session.lastCommand
+    readonly property string label: Session.label(command)
 
     color: Theme.panel
     implicitHeight: 30
@@ -44,7 +43,7 @@ Rectangle {
 
                 objectName: "statusKey"
                 anchors.centerIn: parent
-                text: line.session.lastKey
+                text: Session.lastKey
                 textFormat: Text.PlainText
                 color: Theme.accent
                 font { pixelSize: Theme.smallText + 1; weight: Font.DemiBold }
@@ -63,8 +62,8 @@ Rectangle {
         }
         Text {
             objectName: "statusTime"
-            visible: line.session.lastTime !== ""
-            text: qsTr("found in %1").arg(line.session.lastTime)
+            visible: Session.lastTime !== ""
+            text: qsTr("found in %1").arg(Session.lastTime)
             textFormat: Text.PlainText
             color: Theme.softInk
             font.pixelSize: Theme.text
@@ -75,11 +74,11 @@ Rectangle {
         Fact {
             objectName: "statusTool"
             visible: text !== ""
-            text: line.session.label("Tool(" + line.view.tool + ")")
+            text: Session.label("Tool(" + line.view.tool + ")")
         }
         Fact {
             objectName: "statusSize"
-            text: line.session.document.size.width + " × " + line.session.document.size.height
+            text: Session.document.size.width + " × " + Session.document.size.height
         }
         Fact {
             objectName: "statusZoom"

@@ -4,7 +4,7 @@ import QtQuick
 
 // The colours and measures of the gallery's window, light and dark. Lengths are logical pixels.
 QtObject {
-    property bool dark: false
+    readonly property bool dark: Session.view.dark
 
     readonly property color window: dark ? "#26282c" : "#f4f5f7"
     readonly property color panel: dark ? "#2c2e33" : "#fbfbfc"
@@ -17,10 +17,12 @@ QtObject {
     readonly property color accent: dark ? "#6ea8e5" : "#2f67a8"
     readonly property color accentGround: dark ? "#33475e" : "#dce7f4"
     readonly property color accentInk: dark ? "#10161d" : "#ffffff"
+    readonly property color danger: dark ? "#ef8a80" : "#b3261e"
     readonly property color hover: dark ? "#383b41" : "#e9ebef"
 
     readonly property int space: 8
     readonly property int smallText: 11
     readonly property int text: 13
+    readonly property int title: 20
     readonly property int radius: 4
 }

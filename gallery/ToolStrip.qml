@@ -6,7 +6,6 @@ import QtQuick
 Rectangle {
     id: strip
 
-    required property Session session
     readonly property list<string> tools: ["move", "rectselect", "lasso", "wand", "crop", "eyedropper", "brush",
         "pencil", "eraser", "bucket", "gradient", "text", "shape", "hand", "zoom"]
 
@@ -24,7 +23,7 @@ Rectangle {
                 id: button
 
                 required property string modelData
-                readonly property bool current: strip.session.view.tool === modelData
+                readonly property bool current: Session.view.tool === modelData
 
                 width: 34
                 height: 34
@@ -32,9 +31,9 @@ Rectangle {
                 color: current ? Theme.accentGround : hover.hovered ? Theme.hover : "transparent"
 
                 Accessible.role: Accessible.RadioButton
-                Accessible.name: strip.session.label("Tool(" + modelData + ")") || modelData
+                Accessible.name: Session.label("Tool(" + modelData + ")") || modelData
                 Accessible.checked: current
-                Accessible.onPressAction: strip.session.choose("Tool(" + modelData + ")")
+                Accessible.onPressAction: Session.choose("Tool(" + modelData + ")")
 
                 ToolIcon {
                     anchors.centerIn: parent
@@ -45,7 +44,7 @@ Rectangle {
                     id: hover
                 }
                 TapHandler {
-                    onTapped: strip.session.choose("Tool(" + button.modelData + ")")
+                    onTapped: Session.choose("Tool(" + button.modelData + ")")
                 }
             }
         }

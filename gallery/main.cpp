@@ -1,14 +1,25 @@
+#include "arbor_qml_support.h"
 #include "gallery/GalleryModule.h"
 #include "gallery/KeyScript.h"
+#include "gallery/LiveAddresses.h"
+#include "gallery/LiveReload.h"
 #include "gallery/MenuFile.h"
 #include "gallery/Options.h"
+#include "gallery/PagePictures.h"
+#include "gallery/PageRenderer.h"
+#include "gallery/Pages.h"
 #include "gallery/Screenshots.h"
 #include "gallery/Session.h"
 #include "gallery/Tour.h"
 #include "gallery/Translations.h"
+#include "gallery/resize/Interrupts.h"
+#include "gallery/resize/ResizeCommand.h"
+#include "gallery/resize/ResizeConsole.h"
 
 #include <QFont>
 #include <QGuiApplication>
+#include <QImageReader>
+#include <QLoggingCategory>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
@@ -20,7 +31,8 @@ namespace {
 
 constexpr int g_cannot_write = 1;
 constexpr int g_bad_file = 2;
-constexpr int g_text_size = 13; // logical pixels
+constexpr int g_text_size = 13;      // logical pixels
+constexpr int g_image_memory = 1024; // MiB; four bytes for each pixel of the largest image
 
 void print(const QString& line, FILE* to = stdout)
 {
@@ -72,14 +84,66 @@ int run_script(Gallery::Session& session, QQuickWindow& window, const Gallery::O
     return run_tour(session, window, options.demo);
 }
 
+/// What draws pages without a window. A session of its own: a second canvas would zoom the window's one.
+struct Easel
+{
+    Easel(const Gallery::Options& options, const Gallery::MenuDocument& document)
+        : translations(options.locale), session(document)
+    {
+        engine.addUrlInterceptor(&addresses);
+    }
+
+    const Gallery::Translations translations;
+    Gallery::Session session;
+    Gallery::LiveAddresses addresses;
+    QQmlEngine engine;
+    Gallery::PageRenderer renderer{engine};
+};
+
+int render(const Gallery::Options& options, const Gallery::MenuDocument& document)
+{
+    Easel easel(options, document);
+    if (easel.renderer.Render(options.render))
+        return 0;
+    print(easel.renderer.Errors().join(u'\n'), stderr);
+    return g_bad_file;
+}
+
+int take_page_pictures(const Gallery::Options& options, const Gallery::MenuDocument& document)
+{
+    Easel easel(options, document);
+    const QString error
+        = Gallery::TakePagePictures(easel.renderer, easel.session, options.demo + u"/pages"_s);
+    if (error.isEmpty())
+        return 0;
+    print(error, stderr);
+    return g_cannot_write;
+}
+
+/// Needs no display. The application is a graphical one for the formats that draw text.
+int resize(int& argc, char** argv, const Gallery::Options& options)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(argc, argv);
+    QLoggingCategory::setFilterRules(u"qt.gui.imageio*=false"_s); // failures have reasons of their own
+    const Gallery::Translations translations(options.locale);
+    const Gallery::Interrupts interrupts;
+    Gallery::ResizeConsole console = Gallery::StandardConsole();
+    console.interrupted = &Gallery::Interrupts::Caught;
+    return Gallery::RunResizeCommand(options.resize, console);
+}
+
 int run(const Gallery::Options& options, const Gallery::MenuDocument& document)
 {
-    Gallery::KeepQmlModule();
     const Gallery::Translations translations(options.locale);
     Gallery::Session session(document);
+    session.SetPage(options.page);
+    Gallery::LiveAddresses addresses;
     QQmlApplicationEngine engine;
-    engine.setInitialProperties({{u"session"_s, QVariant::fromValue(&session)}});
-    engine.loadFromModule("K7.Arbor.Gallery", "Main");
+    engine.addUrlInterceptor(&addresses);
+    const Gallery::LiveReload live(Gallery::LiveFolders());
+    QObject::connect(&live, &Gallery::LiveReload::Changed, &session, &Gallery::Session::AskReload);
+    engine.load(Gallery::GalleryUrl(u"Main.qml"_s));
     auto* window = qobject_cast<QQuickWindow*>(engine.rootObjects().value(0));
     if (!window)
         return g_cannot_write;
@@ -100,14 +164,27 @@ int main(int argc, char** argv)
         print(result.message, result.exit_code == 0 ? stdout : stderr);
         return result.exit_code;
     }
+    QImageReader::setAllocationLimit(g_image_memory);
+    if (!result.options.resize.in.isEmpty())
+        return resize(argc, argv, result.options);
     Gallery::MenuFile file;
     if (!file.Load(result.options.menus.isEmpty() ? u":/gallery/menus.json"_s : result.options.menus)) {
         print(file.Error(), stderr);
         return g_bad_file;
     }
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL); // what pages are drawn with
     const QGuiApplication application(argc, argv);
     QFont font = QGuiApplication::font();
     font.setPixelSize(g_text_size);
     QGuiApplication::setFont(font);
-    return run(result.options, file.Document());
+    if (!result.options.qml.isEmpty())
+        Gallery::ReadQmlFrom(result.options.qml);
+    Gallery::AddRegistrators();
+    Quick::Register::Init();
+    if (!result.options.render.file.isEmpty())
+        return render(result.options, file.Document());
+    const int code = run(result.options, file.Document());
+    if (code != 0 || result.options.demo.isEmpty())
+        return code;
+    return take_page_pictures(result.options, file.Document());
 }

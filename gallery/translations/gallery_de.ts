@@ -7,9 +7,267 @@
         <source>%1 - Arbor Gallery</source>
         <translation>%1 - Arbor Galerie</translation>
     </message>
+</context>
+<context>
+    <name>Pages</name>
     <message>
         <source>Picture</source>
         <translation>Bild</translation>
+    </message>
+    <message>
+        <source>Offscreen</source>
+        <translation>Ohne Fenster</translation>
+    </message>
+    <message>
+        <source>Resources</source>
+        <translation>Ressourcen</translation>
+    </message>
+    <message>
+        <source>Resize</source>
+        <translation>Skalieren</translation>
+    </message>
+</context>
+<context>
+    <name>PageSwitcher</name>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
+</context>
+<context>
+    <name>PageErrors</name>
+    <message>
+        <source>This page cannot be shown</source>
+        <translation>Diese Seite kann nicht gezeigt werden</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>Save the file again: the page comes back as soon as it loads.</source>
+        <translation>Speichern Sie die Datei erneut: die Seite kommt wieder, sobald sie sich laden lässt.</translation>
+    </message>
+</context>
+<context>
+    <name>PicturePage</name>
+    <message>
+        <source>Picture</source>
+        <translation>Bild</translation>
+    </message>
+</context>
+<context>
+    <name>OffscreenPage</name>
+    <message>
+        <source>A scene without a window</source>
+        <translation>Eine Szene ohne Fenster</translation>
+    </message>
+    <message>
+        <source>The scene below never gets a window. It is drawn into memory, a few milliseconds after it changes, and each frame is taken as a picture.</source>
+        <translation>Die Szene unten bekommt nie ein Fenster. Sie wird wenige Millisekunden nach einer Änderung in den Speicher gezeichnet, und jeder Durchgang wird als Bild übernommen.</translation>
+    </message>
+    <message>
+        <source>The scene</source>
+        <translation>Die Szene</translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation>Quelle</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Frames</source>
+        <translation>Durchgänge</translation>
+    </message>
+</context>
+<context>
+    <name>ResourcesPage</name>
+    <message>
+        <source>compiled in</source>
+        <translation>einkompiliert</translation>
+    </message>
+    <message>
+        <source>file on disk</source>
+        <translation>Datei auf der Platte</translation>
+    </message>
+    <message>
+        <source>nothing there</source>
+        <translation>nichts gefunden</translation>
+    </message>
+    <message>
+        <source>Where addresses lead</source>
+        <translation>Wohin Adressen führen</translation>
+    </message>
+    <message>
+        <source>The developer's mode is on: the gallery's QML files are read from the source tree, and a page shows again as soon as one of them is saved.</source>
+        <translation>Der Entwicklermodus ist an: die QML-Dateien der Galerie kommen aus dem Quellbaum, und eine Seite erscheint neu, sobald eine von ihnen gespeichert wird.</translation>
+    </message>
+    <message>
+        <source>The developer's mode is off: QML files are compiled in. Start the gallery with ORV_DEVELOP_RESOURCES set, and they are read from the source tree instead.</source>
+        <translation>Der Entwicklermodus ist aus: QML-Dateien sind einkompiliert. Starten Sie die Galerie mit gesetztem ORV_DEVELOP_RESOURCES, dann kommen sie aus dem Quellbaum.</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>The pages of this program</source>
+        <translation>Die Seiten dieses Programms</translation>
+    </message>
+</context>
+<context>
+    <name>Resize</name>
+    <message>
+        <source>A width of %1 pixels is too large: %2 is the largest.</source>
+        <translation>Eine Breite von %1 Pixeln ist zu groß: %2 ist die größte.</translation>
+    </message>
+    <message>
+        <source>A width of %1 pixels leaves nothing: 1 is the smallest.</source>
+        <translation>Eine Breite von %1 Pixeln lässt nichts übrig: 1 ist die kleinste.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is no width: it is a whole number of pixels.</source>
+        <translation>„%1“ ist keine Breite: sie ist eine ganze Zahl von Pixeln.</translation>
+    </message>
+    <message>
+        <source>There is no folder to take images from.</source>
+        <translation>Es fehlt der Ordner, aus dem die Bilder kommen.</translation>
+    </message>
+    <message>
+        <source>There is no folder to put images into.</source>
+        <translation>Es fehlt der Ordner, in den die Bilder kommen.</translation>
+    </message>
+    <message>
+        <source>There is no folder %1.</source>
+        <translation>Es gibt keinen Ordner %1.</translation>
+    </message>
+    <message>
+        <source>%1 is no folder.</source>
+        <translation>%1 ist kein Ordner.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be read.</source>
+        <translation>Der Ordner %1 lässt sich nicht lesen.</translation>
+    </message>
+    <message>
+        <source>The images would replace themselves: both folders are the same.</source>
+        <translation>Die Bilder würden sich selbst ersetzen: Beide Ordner sind derselbe.</translation>
+    </message>
+    <message>
+        <source>The folder %1 cannot be made.</source>
+        <translation>Der Ordner %1 lässt sich nicht anlegen.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written into the folder %1.</source>
+        <translation>In den Ordner %1 lässt sich nichts schreiben.</translation>
+    </message>
+    <message>
+        <source>There are no images in %1.</source>
+        <translation>In %1 gibt es keine Bilder.</translation>
+    </message>
+    <message>
+        <source>it cannot be opened: %1</source>
+        <translation>lässt sich nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be written: %1</source>
+        <translation>lässt sich nicht schreiben: %1</translation>
+    </message>
+    <message>
+        <source>it cannot be read: %1</source>
+        <translation>lässt sich nicht lesen: %1</translation>
+    </message>
+    <message>
+        <source>it takes more memory than there is</source>
+        <translation>braucht mehr Speicher, als da ist</translation>
+    </message>
+    <message>
+        <source>it is no image, whatever its name says</source>
+        <translation>ist kein Bild, auch wenn es so heißt</translation>
+    </message>
+    <message>
+        <source>it is cut off</source>
+        <translation>ist abgeschnitten</translation>
+    </message>
+    <message>
+        <source>its %1x%2 pixels are too many: each side has %3 at most</source>
+        <translation>hat mit %1x%2 zu viele Pixel: jede Seite hat höchstens %3</translation>
+    </message>
+    <message>
+        <source>Cancelled.</source>
+        <translation>Abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Images resized: %1 of %2.</source>
+        <translation>Skalierte Bilder: %1 von %2.</translation>
+    </message>
+    <message>
+        <source>Failed: %1.</source>
+        <translation>Fehlgeschlagen: %1.</translation>
+    </message>
+    <message>
+        <source>Resizing images</source>
+        <translation>Bilder werden skaliert</translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation>%1 s</translation>
+    </message>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>about %1 left</source>
+        <translation>noch etwa %1</translation>
+    </message>
+</context>
+<context>
+    <name>ResizePage</name>
+    <message>
+        <source>Batch resize</source>
+        <translation>Stapelweise skalieren</translation>
+    </message>
+    <message>
+        <source>Scales all images of a folder to a width and puts them into another folder. Images that are no wider stay as they are. Cancelling leaves only whole images behind.</source>
+        <translation>Skaliert alle Bilder eines Ordners auf eine Breite und legt sie in einen anderen Ordner. Bilder, die nicht breiter sind, bleiben, wie sie sind. Ein Abbruch hinterlässt nur ganze Bilder.</translation>
+    </message>
+    <message>
+        <source>From the folder</source>
+        <translation>Aus dem Ordner</translation>
+    </message>
+    <message>
+        <source>Into the folder</source>
+        <translation>In den Ordner</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Breite in Pixeln</translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation>Start</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::PageHolder</name>
+    <message>
+        <source>The root of a page must be an item.</source>
+        <translation>Die Wurzel einer Seite muss ein Item sein.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::OffscreenPicture</name>
+    <message>
+        <source>Scenes without a window are drawn with OpenGL, and this window is not.</source>
+        <translation>Szenen ohne Fenster werden mit OpenGL gezeichnet, dieses Fenster aber nicht.</translation>
     </message>
 </context>
 <context>
@@ -187,6 +445,10 @@
     <message>
         <source>&amp;Layers as Files...</source>
         <translation>Ebenen als Dateien ...</translation>
+    </message>
+    <message>
+        <source>Batch Resi&amp;ze...</source>
+        <translation>Stapelweise skalieren...</translation>
     </message>
     <message>
         <source>Page Set&amp;up...</source>

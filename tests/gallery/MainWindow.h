@@ -1,8 +1,10 @@
 #pragma once
 
-#include "gallery/GalleryModule.h"
+#include "gallery/LiveAddresses.h"
+#include "gallery/Pages.h"
 #include "gallery/Session.h"
 #include "gallery/Translations.h"
+#include "tests/gallery/QmlTypes.h"
 #include "tests/gallery/RealMenu.h"
 
 #include <QQmlApplicationEngine>
@@ -17,9 +19,9 @@ class MainWindow
 public:
     explicit MainWindow(const QString& locale = QStringLiteral("en")) : m_translations(locale)
     {
-        Gallery::KeepQmlModule();
-        m_engine.setInitialProperties({{QStringLiteral("session"), QVariant::fromValue(&m_session)}});
-        m_engine.loadFromModule("K7.Arbor.Gallery", "Main");
+        RegisterQmlTypes();
+        m_engine.addUrlInterceptor(&m_addresses);
+        m_engine.load(Gallery::GalleryUrl(QStringLiteral("Main.qml")));
         m_window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0));
         EXPECT_TRUE(m_window);
         m_window->requestActivate();
@@ -32,6 +34,7 @@ public:
 private:
     Gallery::Translations m_translations;
     Gallery::Session m_session{RealMenu()};
+    Gallery::LiveAddresses m_addresses;
     QQmlApplicationEngine m_engine;
     QQuickWindow* m_window = nullptr;
 };

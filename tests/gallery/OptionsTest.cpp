@@ -31,20 +31,37 @@ TEST(Options, WithoutArgumentsTheWindowStays)
     EXPECT_FALSE(result.options.IsScript());
     EXPECT_EQ(result.options.locale, u"en"_s);
     EXPECT_TRUE(result.options.menus.isEmpty());
+    EXPECT_TRUE(result.options.qml.isEmpty());
 }
 
 TEST(Options, AllAreTaken)
 {
-    const OptionsResult result
-        = parse({u"--keys"_s, u"Ctrl+S,Alt+F"_s, u"--screenshots"_s, u"out"_s, u"--locale"_s, u"de"_s,
-                 u"--menus"_s, u"my.json"_s, u"--demo"_s, u"tour"_s});
+    const OptionsResult result = parse({u"--keys"_s, u"Ctrl+S,Alt+F"_s, u"--screenshots"_s, u"out"_s,
+                                        u"--locale"_s, u"de"_s, u"--menus"_s, u"my.json"_s, u"--qml"_s,
+                                        u"copy"_s, u"--demo"_s, u"tour"_s, u"--page"_s, u"OffscreenPage"_s});
 
     EXPECT_EQ(result.exit_code, -1);
     EXPECT_EQ(result.options.keys.size(), 2);
     EXPECT_EQ(result.options.screenshots, u"out"_s);
     EXPECT_EQ(result.options.locale, u"de"_s);
     EXPECT_EQ(result.options.menus, u"my.json"_s);
+    EXPECT_EQ(result.options.qml, u"copy"_s);
     EXPECT_EQ(result.options.demo, u"tour"_s);
+    EXPECT_EQ(result.options.page, u"OffscreenPage"_s);
+    EXPECT_EQ(result.options.render.file, QString());
+}
+
+TEST(Options, APictureOfAFileIsTaken)
+{
+    const OptionsResult result = parse({u"--render"_s, u"a.qml"_s, u"--out"_s, u"a.png"_s, u"--size"_s,
+                                        u"8x6"_s, u"--set"_s, u"a=b"_s, u"--locale=de"_s});
+
+    EXPECT_EQ(result.exit_code, -1);
+    EXPECT_FALSE(result.options.IsScript());
+    EXPECT_EQ(result.options.render.file, u"a.qml"_s);
+    EXPECT_EQ(result.options.render.out, u"a.png"_s);
+    EXPECT_EQ(result.options.render.size, QSize(8, 6));
+    EXPECT_EQ(result.options.render.values, (QList<Gallery::RenderValue>{{u"a"_s, u"b"_s}}));
 }
 
 TEST(Options, KeysPicturesAndTourAreScripts)
@@ -67,7 +84,9 @@ TEST(Options, HelpNamesEveryOptionAndEndsWithZero)
     const OptionsResult result = parse({u"--help"_s});
 
     EXPECT_EQ(result.exit_code, 0);
-    for (const QString& option : {u"--keys"_s, u"--screenshots"_s, u"--demo"_s, u"--locale"_s, u"--menus"_s})
+    for (const QString& option :
+         {u"--keys"_s, u"--screenshots"_s, u"--demo"_s, u"--locale"_s, u"--menus"_s, u"--page"_s, u"--qml"_s,
+          u"--render"_s, u"--out"_s, u"--size"_s, u"--set"_s})
         EXPECT_TRUE(result.message.contains(option)) << option.toStdString();
 }
 
@@ -84,16 +103,23 @@ TEST_P(BadArguments, EndWithTwoAndOneSentence)
 
 INSTANTIATE_TEST_SUITE_P(
     Options, BadArguments,
-    testing::Values(BadRow{"UnknownOption", {u"--blur"_s}, "Unknown option 'blur'."},
-                    BadRow{"MissingValue", {u"--keys"_s}, "Missing value after '--keys'."},
-                    BadRow{"UnknownKey", {u"--keys=Ctrl+Wobble"_s}, "\"Ctrl+Wobble\" names no key."},
-                    BadRow{"UnknownLocale",
-                           {u"--locale=xx"_s},
-                           "There is no translation into \"xx\"; there are de, en and ja."},
-                    BadRow{"EmptyKeyInAList", {u"--keys=Ctrl+S,,Alt+F"_s}, "\"\" names no key."},
-                    BadRow{"CommaAsAKey", {u"--keys=Ctrl+,"_s}, "\"Ctrl+\" names no key."},
-                    BadRow{"EmptyKeys", {u"--keys"_s, u""_s}, "Missing value after '--keys'."},
-                    BadRow{"EmptyFolder", {u"--demo="_s}, "Missing value after '--demo'."},
-                    BadRow{"EmptyFile", {u"--menus"_s, u""_s}, "Missing value after '--menus'."},
-                    BadRow{"Positional", {u"picture.png"_s}, "\"picture.png\" is no option."}),
+    testing::Values(
+        BadRow{"UnknownOption", {u"--blur"_s}, "Unknown option 'blur'."},
+        BadRow{"MissingValue", {u"--keys"_s}, "Missing value after '--keys'."},
+        BadRow{"UnknownKey", {u"--keys=Ctrl+Wobble"_s}, "\"Ctrl+Wobble\" names no key."},
+        BadRow{"UnknownLocale",
+               {u"--locale=xx"_s},
+               "There is no translation into \"xx\"; there are de, en and ja."},
+        BadRow{"EmptyKeyInAList", {u"--keys=Ctrl+S,,Alt+F"_s}, "\"\" names no key."},
+        BadRow{"CommaAsAKey", {u"--keys=Ctrl+,"_s}, "\"Ctrl+\" names no key."},
+        BadRow{"EmptyKeys", {u"--keys"_s, u""_s}, "Missing value after '--keys'."},
+        BadRow{"EmptyFolder", {u"--demo="_s}, "Missing value after '--demo'."},
+        BadRow{"EmptyFile", {u"--menus"_s, u""_s}, "Missing value after '--menus'."},
+        BadRow{"UnknownPage",
+               {u"--page=WobblePage"_s},
+               "There is no page \"WobblePage\"; there are PicturePage, OffscreenPage, ResourcesPage, "
+               "ResizePage."},
+        BadRow{"PictureWithoutAFile", {u"--render="_s, u"--out=a.png"_s}, "Missing value after '--render'."},
+        BadRow{"PictureOfNothing", {u"--out=a.png"_s}, "--out goes with --render."},
+        BadRow{"Positional", {u"picture.png"_s}, "\"picture.png\" is no option."}),
     [](const auto& row) { return row.param.name; });

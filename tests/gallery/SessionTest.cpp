@@ -1,5 +1,6 @@
 #include "gallery/Session.h"
 
+#include "gallery/Pages.h"
 #include "tests/gallery/RealMenu.h"
 
 #include <gtest/gtest.h>
@@ -154,6 +155,43 @@ TEST_F(SessionTest, TheContextMenuIsAskedForAtItsPlace)
     m_session.openContextMenu(30, 40);
 
     EXPECT_EQ(place, QPoint(30, 40));
+}
+
+TEST_F(SessionTest, BeginsWithTheFirstPage)
+{
+    EXPECT_EQ(m_session.Page(), u"PicturePage"_s);
+    EXPECT_EQ(m_session.PageUrl(), Gallery::PageUrl(u"PicturePage"_s));
+}
+
+TEST_F(SessionTest, AnotherPageIsTold)
+{
+    int told = 0;
+    QObject::connect(&m_session, &Gallery::Session::PageChanged, [&told] { ++told; });
+
+    m_session.SetPage(u"ResourcesPage"_s);
+    m_session.SetPage(u"ResourcesPage"_s);
+
+    EXPECT_EQ(m_session.Page(), u"ResourcesPage"_s);
+    EXPECT_EQ(told, 1);
+}
+
+TEST_F(SessionTest, AnUnknownPageChangesNothing)
+{
+    m_session.SetPage(u"WobblePage"_s);
+    m_session.SetPage(QString());
+
+    EXPECT_EQ(m_session.Page(), u"PicturePage"_s);
+}
+
+TEST_F(SessionTest, IsThatOfTheProgramWhileItLives)
+{
+    EXPECT_EQ(Gallery::Session::OfProgram(), &m_session);
+    {
+        Gallery::Session other(RealMenu());
+        EXPECT_EQ(Gallery::Session::OfProgram(), &other);
+    }
+
+    EXPECT_EQ(Gallery::Session::OfProgram(), nullptr);
 }
 
 TEST_F(SessionTest, QuitIsHandedOn)

@@ -53,6 +53,12 @@ QStringList all_pictures()
     return {u"main"_s, u"popup"_s, u"submenu"_s, u"colours"_s, u"contextmenu"_s, u"dark"_s};
 }
 
+/// What the tour says where pages cannot be drawn.
+QString no_pages_line()
+{
+    return u"There are no pictures of pages. Pages are drawn with OpenGL, and there is none: it takes a display, and no other back end in QT_QUICK_BACKEND.\n"_s;
+}
+
 int colors_in(const QImage& image)
 {
     QSet<QRgb> colors;
@@ -240,8 +246,19 @@ TEST(ArborGallery, ThePicturesAreTakenOfAnotherMenuToo)
     const Outcome result = run({u"--menus"_s, file, u"--demo"_s, folder.path()});
 
     EXPECT_EQ(result.code, 0) << result.errors.toStdString();
-    EXPECT_TRUE(result.errors.isEmpty()) << result.errors.toStdString();
+    EXPECT_EQ(result.errors, no_pages_line());
     EXPECT_NE(QImage(folder.filePath(u"main.png"_s)), QImage(folder.filePath(u"dark.png"_s)));
+}
+
+TEST(ArborGallery, WithoutOpenGLTheTourHasNoPicturesOfPagesAndSaysSoOnce)
+{
+    const QTemporaryDir folder;
+
+    const Outcome result = run({u"--demo"_s, folder.path()});
+
+    EXPECT_EQ(result.code, 0);
+    EXPECT_EQ(result.errors, no_pages_line());
+    EXPECT_FALSE(QFile::exists(folder.filePath(u"pages"_s)));
 }
 
 TEST(ArborGallery, AnUnknownOptionGivesOneSentenceAndTwo)
