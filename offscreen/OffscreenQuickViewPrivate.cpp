@@ -108,13 +108,13 @@ void OffscreenQuickViewPrivate::updateSizes()
         resizeView(size);
 }
 
-void OffscreenQuickViewPrivate::resizeView(const QSize& size)
+void OffscreenQuickViewPrivate::resizeView(const QSize& size) const
 {
     if (size != q->size())
         q->resize(size);
 }
 
-void OffscreenQuickViewPrivate::resizeRoot()
+void OffscreenQuickViewPrivate::resizeRoot() const
 {
     if (!qFuzzyCompare(root->width(), qreal(q->width())))
         root->setWidth(q->width());

@@ -15,7 +15,7 @@ class OffscreenQuickViewPrivate : public QObject
 
 public:
     /// Null makes an engine that `view` owns.
-    OffscreenQuickViewPrivate(OffscreenQuickView* view, QQmlEngine* engine);
+    OffscreenQuickViewPrivate(OffscreenQuickView* view, QQmlEngine* given);
 
     void setSource(const QUrl& url);
     OffscreenQuickView::Status status() const;
@@ -30,8 +30,8 @@ public Q_SLOTS:
 private:
     void clear();
     void setRoot(QObject* object);
-    void resizeView(const QSize& size);
-    void resizeRoot();
+    void resizeView(const QSize& size) const;
+    void resizeRoot() const;
 
 public:
     QPointer<QQmlEngine> engine;

@@ -105,7 +105,7 @@ void OffscreenQuickWindowPrivate::initialize(OffscreenQuickWindow* window)
     context->doneCurrent();
 }
 
-void OffscreenQuickWindowPrivate::startSceneGraph()
+void OffscreenQuickWindowPrivate::startSceneGraph() const
 {
     // Otherwise the scene graph makes a context of its own, to which the framebuffer object is unknown.
     q->setGraphicsDevice(QQuickGraphicsDevice::fromOpenGLContext(context.get()));

@@ -48,7 +48,7 @@ public Q_SLOTS:
     void sceneChanged();
 
 private:
-    void startSceneGraph();
+    void startSceneGraph() const;
     void startTimer();
     void beginFrame(bool changed) const;
     void endFrame() const;
