@@ -10,7 +10,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int g_longest_run = 60000; // ms
+constexpr int g_longest_run = 100000; // ms
 
 struct Outcome
 {
