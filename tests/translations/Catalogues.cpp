@@ -91,3 +91,16 @@ QString CompiledCatalogue(const QString& language)
 {
     return QStringLiteral(ARBOR_CATALOGUES "/arbor_") + language;
 }
+
+void ExpectTranslated(const QString& context, const std::set<Source>& table)
+{
+    for (const auto& [name, catalogue] : Catalogues()) {
+        SCOPED_TRACE(name);
+        std::set<Source> translated;
+        for (const auto& [source, text] : EntriesOf(catalogue, context)) {
+            EXPECT_FALSE(text.isEmpty()) << source.first;
+            translated.insert(source);
+        }
+        EXPECT_EQ(translated, table);
+    }
+}

@@ -26,3 +26,7 @@ std::set<Source> LiteralsIn(const QString& folder);
 
 /// Path of the compiled catalogue of a language.
 QString CompiledCatalogue(const QString& language);
+
+/// Fails the running test unless each catalogue has, under `context`, a text for each row of `table` and no
+/// other.
+void ExpectTranslated(const QString& context, const std::set<Source>& table);

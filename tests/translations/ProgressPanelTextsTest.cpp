@@ -28,14 +28,14 @@ TEST(ProgressPanelTexts, EveryCatalogueTranslatesThePanel)
 {
     const std::set<Source> texts = texts_of_the_panel();
     ASSERT_EQ(texts.size(), 9u);
+    ExpectTranslated(u"ProgressPanel"_s, texts);
+}
+
+TEST(ProgressPanelTexts, EveryCatalogueKeepsThePlacesOfNumbers)
+{
     for (const auto& [name, catalogue] : Catalogues()) {
         SCOPED_TRACE(name);
-        std::set<Source> translated;
-        for (const auto& [source, text] : EntriesOf(catalogue, u"ProgressPanel"_s)) {
+        for (const auto& [source, text] : EntriesOf(catalogue, u"ProgressPanel"_s))
             EXPECT_EQ(text.count(u'%'), std::ranges::count(source.first, '%')) << source.first;
-            EXPECT_FALSE(text.isEmpty()) << source.first;
-            translated.insert(source);
-        }
-        EXPECT_EQ(translated, texts);
     }
 }
