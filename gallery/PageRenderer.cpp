@@ -9,6 +9,7 @@
 #include "gallery/WaitFor.h"
 #include "offscreen/OffscreenQuickView.h"
 
+#include <QDeadlineTimer>
 #include <QQuickItem>
 
 using namespace Qt::StringLiterals;
@@ -19,6 +20,11 @@ namespace {
 
 /// Above 1, so that the view does not take the root's size before the page is complete.
 constexpr QSize g_size_while_loading(2, 2);
+
+std::chrono::milliseconds left_until(const QDeadlineTimer& end)
+{
+    return std::chrono::milliseconds(end.remainingTime());
+}
 
 }
 
@@ -80,22 +86,25 @@ QImage PageRenderer::draw_page(OffscreenQuickView& view, QQuickItem* page, const
 {
     if (!page)
         return {};
+    const QDeadlineTimer end(g_longest_load);
     if (size.isValid()) {
         view.resize(size);
         page->setSize(size);
-    } else if (!take_own_size(view, *page)) {
+    } else if (!take_own_size(view, *page, end)) {
         return {};
     }
-    wait(view);
+    if (!WaitForScene(view, left_until(end)))
+        qWarning("After %lld seconds a part of the page is still loading; it is drawn as it is.",
+                 static_cast<long long>(g_longest_load.count()));
     const QImage picture = view.grab();
     if (picture.isNull())
         m_errors << u"OpenGL gave no picture of %1x%2 pixels."_s.arg(view.width()).arg(view.height());
     return picture;
 }
 
-bool PageRenderer::take_own_size(OffscreenQuickView& view, const QQuickItem& page)
+bool PageRenderer::take_own_size(OffscreenQuickView& view, const QQuickItem& page, const QDeadlineTimer& end)
 {
-    wait(view); // what is loaded may make the page larger
+    WaitForScene(view, left_until(end)); // what is loaded may make the page larger
     const QSize own(static_cast<int>(page.width()), static_cast<int>(page.height()));
     const QString why
         = own.isEmpty() ? u"The page has no size of its own: --size gives one."_s : WhyNoRenderSize(own);
@@ -106,13 +115,6 @@ bool PageRenderer::take_own_size(OffscreenQuickView& view, const QQuickItem& pag
     view.setResizeMode(OffscreenQuickView::SizeViewToRootObject);
     view.resize(own);
     return true;
-}
-
-void PageRenderer::wait(OffscreenQuickView& view)
-{
-    if (!WaitForScene(view, g_longest_load))
-        qWarning("After %lld seconds a part of the page is still loading; it is drawn as it is.",
-                 static_cast<long long>(g_longest_load.count()));
 }
 
 }

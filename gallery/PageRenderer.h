@@ -6,6 +6,7 @@
 #include <QStringList>
 
 QT_BEGIN_NAMESPACE
+class QDeadlineTimer;
 class QQmlEngine;
 class QQuickItem;
 class QUrl;
@@ -29,9 +30,10 @@ public:
     /// was.
     bool Render(const RenderJob& job);
 
-    /// The page of `url`, complete with images, fonts and loaders. What has not come after ten seconds is
-    /// left out with a warning. Transparent where nothing covers it. `size` is in device pixels; invalid:
-    /// that of the root. `values` are given to the root before it is complete. Null: Errors() says why.
+    /// The page of `url`, complete with images, fonts and loaders. What has not come ten seconds after the
+    /// file itself is left out with a warning; the file has ten seconds too. Transparent where nothing covers
+    /// it. `size` is in device pixels; invalid: that of the root. `values` are given to the root before it is
+    /// complete. Null: Errors() says why.
     QImage Draw(const QUrl& url, const QSize& size, const QList<RenderValue>& values = {});
 
     /// What the last call ran into: "FILE:LINE: text" of QML errors, otherwise one sentence; empty after a
@@ -41,8 +43,7 @@ public:
 private:
     QImage draw_page(OffscreenQuickView& view, QQuickItem* page, const QSize& size);
     QQuickItem* load(OffscreenQuickView& view, const QUrl& url);
-    bool take_own_size(OffscreenQuickView& view, const QQuickItem& page);
-    void wait(OffscreenQuickView& view);
+    bool take_own_size(OffscreenQuickView& view, const QQuickItem& page, const QDeadlineTimer& end);
 
     QQmlEngine& m_engine;
     QStringList m_errors;
