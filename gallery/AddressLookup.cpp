@@ -1,7 +1,7 @@
 #include "gallery/AddressLookup.h"
 
 #include "arbor_qml_support.h"
-#include "gallery/LiveAddresses.h"
+#include "gallery/live/LiveAddresses.h"
 
 #include <QFileInfo>
 

@@ -1,9 +1,9 @@
 #include "gallery/Commands.h"
 
-#include "gallery/Document.h"
-#include "gallery/PictureFilters.h"
-#include "gallery/PictureTones.h"
 #include "gallery/ViewState.h"
+#include "gallery/picture/Document.h"
+#include "gallery/picture/PictureFilters.h"
+#include "gallery/picture/PictureTones.h"
 
 #include <QPainter>
 #include <QTransform>

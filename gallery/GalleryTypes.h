@@ -3,10 +3,10 @@
 // QML: the types of the module K7.Arbor.Gallery that come from C++.
 
 #include "gallery/AddressLookup.h"
-#include "gallery/CanvasItem.h"
 #include "gallery/OffscreenPicture.h"
 #include "gallery/PageHolder.h"
 #include "gallery/Session.h"
+#include "gallery/picture/CanvasItem.h"
 #include "gallery/resize/BatchResize.h"
 
 #include <QJSEngine>

@@ -1,6 +1,6 @@
 #include "gallery/OffscreenPicture.h"
 
-#include "gallery/QmlErrorLines.h"
+#include "gallery/live/QmlErrorLines.h"
 
 #include <QDebug>
 #include <QPainter>

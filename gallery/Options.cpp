@@ -1,7 +1,7 @@
 #include "gallery/Options.h"
 
 #include "gallery/Pages.h"
-#include "gallery/RenderOptions.h"
+#include "gallery/render/RenderOptions.h"
 #include "gallery/resize/ResizeOptions.h"
 
 #include <QCommandLineParser>

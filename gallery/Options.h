@@ -1,8 +1,8 @@
 #pragma once
 
-#include "gallery/KeyPress.h"
-#include "gallery/RenderJob.h"
+#include "gallery/render/RenderJob.h"
 #include "gallery/resize/ResizeJob.h"
+#include "gallery/script/KeyPress.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #include "gallery/Session.h"
 
-#include "gallery/MenuPath.h"
 #include "gallery/Pages.h"
+#include "gallery/menu/MenuPath.h"
 
 using namespace Qt::StringLiterals;
 

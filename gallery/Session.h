@@ -1,9 +1,9 @@
 #pragma once
 
 #include "gallery/Commands.h"
-#include "gallery/Document.h"
-#include "gallery/MenuMarks.h"
 #include "gallery/ViewState.h"
+#include "gallery/menu/MenuMarks.h"
+#include "gallery/picture/Document.h"
 #include "gallery/resize/BatchResize.h"
 #include "quick_backend/CVqQuickMenu.h"
 

@@ -1,7 +1,7 @@
 #include "gallery/Commands.h"
 
-#include "gallery/Document.h"
 #include "gallery/ViewState.h"
+#include "gallery/picture/Document.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "gallery/Commands.h"
-#include "gallery/Document.h"
 #include "gallery/ViewState.h"
+#include "gallery/picture/Document.h"
 
 #include <gtest/gtest.h>
 

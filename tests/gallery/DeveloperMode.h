@@ -1,8 +1,8 @@
 #pragma once
 
 #include "arbor_qml_support.h"
-#include "gallery/LiveAddresses.h"
 #include "gallery/Pages.h"
+#include "gallery/live/LiveAddresses.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,6 +1,6 @@
-#include "gallery/LiveReload.h"
 #include "gallery/PageHolder.h"
-#include "gallery/WaitFor.h"
+#include "gallery/live/LiveReload.h"
+#include "gallery/script/WaitFor.h"
 #include "tests/gallery/DeveloperMode.h"
 #include "tests/gallery/MainWindow.h"
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "gallery/LiveAddresses.h"
 #include "gallery/Pages.h"
 #include "gallery/Session.h"
 #include "gallery/Translations.h"
+#include "gallery/live/LiveAddresses.h"
 #include "tests/gallery/QmlTypes.h"
 #include "tests/gallery/RealMenu.h"
 

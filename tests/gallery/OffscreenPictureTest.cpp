@@ -1,7 +1,7 @@
 #include "gallery/OffscreenPicture.h"
 
-#include "gallery/Screenshots.h"
-#include "gallery/WaitFor.h"
+#include "gallery/script/Screenshots.h"
+#include "gallery/script/WaitFor.h"
 #include "tests/gallery/PageFolder.h"
 
 #include <QGuiApplication>

@@ -1,4 +1,4 @@
-#include "gallery/Screenshots.h"
+#include "gallery/script/Screenshots.h"
 #include "tests/gallery/MainWindow.h"
 
 #include <QAccessible>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gallery/MenuFile.h"
+#include "gallery/menu/MenuFile.h"
 
 #include <functional>
 

@@ -1,4 +1,4 @@
-#include "gallery/KeyScript.h"
+#include "gallery/script/KeyScript.h"
 #include "tests/gallery/MainWindow.h"
 
 #include <QRegularExpression>

@@ -1,7 +1,7 @@
 #include "gallery/Translations.h"
 
-#include "gallery/KeyText.h"
-#include "gallery/MenuBuilder.h"
+#include "gallery/menu/KeyText.h"
+#include "gallery/menu/MenuBuilder.h"
 #include "quick_backend/CVqQuickMenu.h"
 #include "tests/gallery/RealMenu.h"
 

@@ -1,0 +1,64 @@
+#include "gallery/script/KeyScript.h"
+
+#include "gallery/Session.h"
+#include "gallery/menu/MenuPath.h"
+#include "quick_backend/CVqQuickMenuItem.h"
+
+#include <QCoreApplication>
+#include <QQuickWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace Gallery {
+
+namespace {
+
+constexpr int g_most_levels = 32; // presses of Esc that surely leave every menu
+
+}
+
+QString KeyScript::Press(const KeyPress& press)
+{
+    const QList<vq_uint32> before = OpenPopups();
+    const QString fired = fire(press);
+    if (!fired.isEmpty())
+        return u"%1 -> %2"_s.arg(press.name, fired);
+    for (const vq_uint32 popup : OpenPopups())
+        if (!before.contains(popup))
+            return u"%1 -> opens popup %2"_s.arg(press.name, PlainLabel(*m_session.Menu(), popup));
+    return u"%1 -> no command"_s.arg(press.name);
+}
+
+QString KeyScript::fire(const KeyPress& press)
+{
+    QString fired;
+    const auto connection
+        = QObject::connect(m_session.Menu(), &CVqQuickMenu::commandTriggered, &m_window,
+                           [&](uint id, const QString& command) { fired = u"%1 %2"_s.arg(id).arg(command); });
+    SendKeyPress(press, m_window);
+    QCoreApplication::processEvents();
+    QObject::disconnect(connection);
+    return fired;
+}
+
+QList<vq_uint32> KeyScript::OpenPopups() const
+{
+    QList<vq_uint32> ids;
+    for (const QObject* popup : m_window.findChildren<QObject*>(u"menuPopup"_s)) {
+        const auto* rows = popup->property("rows").value<CVqQuickMenuRows*>();
+        if (rows && popup->property("visible").toBool())
+            ids << rows->ItemAt(0)->parentItem()->id();
+    }
+    return ids;
+}
+
+void KeyScript::CloseAll()
+{
+    const KeyPress escape = *ParseKeyPress(u"Esc"_s);
+    for (int i = 0; i < g_most_levels && m_session.Menu()->IsTracking(); ++i) {
+        SendKeyPress(escape, m_window);
+        QCoreApplication::processEvents();
+    }
+}
+
+}

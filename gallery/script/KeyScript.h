@@ -1,0 +1,41 @@
+#pragma once
+
+#include "gallery/script/KeyPress.h"
+#include "system/VqTypes.h"
+
+QT_BEGIN_NAMESPACE
+class QQuickWindow;
+QT_END_NAMESPACE
+
+namespace Gallery {
+
+class Session;
+
+/// Presses keys in the window and tells what each did.
+class KeyScript
+{
+public:
+    /// Both must outlive the script.
+    KeyScript(Session& session, QQuickWindow& window) : m_session(session), m_window(window) { }
+
+    /// Presses one key. The line is one of
+    ///
+    ///     Ctrl+Shift+S -> 1017 FileSaveAs
+    ///     Alt+F -> opens popup File
+    ///     Ctrl+F9 -> no command
+    QString Press(const KeyPress& press);
+
+    /// Identifiers of the open popups of the window.
+    QList<vq_uint32> OpenPopups() const;
+
+    /// Presses Esc until no popup is open and the bar has let go of the keyboard.
+    void CloseAll();
+
+private:
+    QString fire(const KeyPress& press);
+
+    Session& m_session;
+    QQuickWindow& m_window;
+};
+
+}
