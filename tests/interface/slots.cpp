@@ -7,6 +7,7 @@
 #include "AbstractGui/SVqToolbarButtonHiddenCallback.h"
 #include "DelayedProgressWndBase.h"
 #include "IVqProgressView.h"
+#include "qml/CVqQtAbstractListModel.h"
 
 template <typename Class>
 struct Slots : Class
@@ -19,6 +20,7 @@ template struct Slots<CVqAbstractMenu>;
 template struct Slots<CVqAbstractMenu::IVqVisitorData>;
 template struct Slots<CVqAbstractMenu::SVqManipulators>;
 template struct Slots<CVqMenuItem>;
+template struct Slots<CVqQtAbstractListModel>;
 template struct Slots<IVqMenuBase>;
 template struct Slots<IVqProgressView>;
 template struct Slots<QmlSupport::CVqDelayedProgressWndBase>;
