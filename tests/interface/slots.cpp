@@ -8,6 +8,7 @@
 #include "DelayedProgressWndBase.h"
 #include "IVqProgressView.h"
 #include "qml/CVqQtAbstractListModel.h"
+#include "qml/CVqSortFilterProxyModel.h"
 
 template <typename Class>
 struct Slots : Class
@@ -21,6 +22,7 @@ template struct Slots<CVqAbstractMenu::IVqVisitorData>;
 template struct Slots<CVqAbstractMenu::SVqManipulators>;
 template struct Slots<CVqMenuItem>;
 template struct Slots<CVqQtAbstractListModel>;
+template struct Slots<CVqSortFilterProxyModel>;
 template struct Slots<IVqMenuBase>;
 template struct Slots<IVqProgressView>;
 template struct Slots<QmlSupport::CVqDelayedProgressWndBase>;
