@@ -1,26 +1,11 @@
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "AbstractGui/CVqTreeFieldWriter.h"
 #include "AbstractGui/SVqMenuRecord.h"
 #include "system/CVqVariant.h"
 
 using Manipulators = CVqAbstractMenu::SVqManipulators;
 
 namespace {
-
-// Writes fields into a record of a tree in the way of CVqLiteVariantW.
-class FieldWriter
-{
-public:
-    explicit FieldWriter(CVqVariant& record) : m_record(record) { }
-
-    template <class Value>
-    void Set(Value value, const vq_wchar* name)
-    {
-        m_record.Append(CVqVariant(value, name));
-    }
-
-private:
-    CVqVariant& m_record;
-};
 
 using ReadField = void (*)(SVqMenuRecord& record, const CVqVariant& value);
 
@@ -176,7 +161,7 @@ int Manipulators::save_to_variant(CVqAccelerators* accelerators, CVqMenuItem* it
     int result = 0;
     for (; item; item = item->nextItem()) {
         CVqVariant& record = append_record(out);
-        FieldWriter fields(record);
+        CVqTreeFieldWriter fields(record);
         VqWriteItem(fields, *this, accelerators, *item, VqImageReferenceByName);
         result = item->subItem()
             ? save_to_variant(accelerators, item->subItem(), VqAppendMenuList(record, VQ_TEXT("SubMenu")))
@@ -196,7 +181,7 @@ int Manipulators::save_accels_to_variant(CVqAccelerators* accelerators, CVqMenuI
     if (!item)
         return -9;
     for (; item; item = item->nextItem()) {
-        FieldWriter fields(append_record(out));
+        CVqTreeFieldWriter fields(append_record(out));
         VqWriteAccel(fields, accelerators, *item);
     }
     return 0;
