@@ -1,0 +1,5 @@
+#include "AbstractGui/WaitCursorHolder.h"
+
+Support::WaitCursorHolder::WaitCursorHolder() : CursorHolder(Qt::WaitCursor) { }
+
+Support::WaitCursorHolder::~WaitCursorHolder() = default;
