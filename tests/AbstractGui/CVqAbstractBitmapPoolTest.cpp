@@ -173,7 +173,38 @@ CVqStringW write_file(const QTemporaryDir& folder, const QByteArray& content)
     return CVqStringW::FromQString(name);
 }
 
+struct LoadSVGRow
+{
+    const char* name;
+    QByteArray content;
+    const char* text;
+};
+
+void PrintTo(const LoadSVGRow& row, std::ostream* out)
+{
+    *out << row.name;
 }
+
+struct LoadSVGFailureRow
+{
+    const char* name;
+    CVqStringW (*name_in)(const QTemporaryDir& folder);
+};
+
+void PrintTo(const LoadSVGFailureRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+}
+
+class CVqAbstractBitmapPoolLoadSVG : public CVqAbstractBitmapPoolTest,
+                                     public testing::WithParamInterface<LoadSVGRow>
+{ };
+
+class CVqAbstractBitmapPoolLoadSVGFailure : public CVqAbstractBitmapPoolTest,
+                                            public testing::WithParamInterface<LoadSVGFailureRow>
+{ };
 
 TEST_F(CVqAbstractBitmapPoolTest, InstanceReplacesTheRegisteredPoolAndGivesIt)
 {
@@ -321,80 +352,59 @@ TEST_F(CVqAbstractBitmapPoolTest, DrawingIsPassedOn)
     EXPECT_THAT(pool.m_given, ElementsAre("drawOptimalImage 9"));
 }
 
-TEST_F(CVqAbstractBitmapPoolTest, LoadSVGReadsTheWholeFile)
-{
-    use_bare_pool();
-    const QTemporaryDir folder;
-    CVqStringA target;
-
-    EXPECT_EQ(Pool::LoadSVG(target, write_file(folder, "<svg>\nü</svg>\n")), 0);
-
-    EXPECT_EQ(target.View(), "<svg>\nü</svg>\n");
-}
-
-TEST_F(CVqAbstractBitmapPoolTest, LoadSVGReadsAsText)
-{
-    use_bare_pool();
-    const QTemporaryDir folder;
-    CVqStringA target;
-
-    Pool::LoadSVG(target, write_file(folder, "<svg>\r\n</svg>\r\n"));
-
-    EXPECT_EQ(target.View(), "<svg>\n</svg>\n");
-}
-
-TEST_F(CVqAbstractBitmapPoolTest, LoadSVGEndsAtAZeroByte)
-{
-    use_bare_pool();
-    const QTemporaryDir folder;
-    CVqStringA target;
-
-    Pool::LoadSVG(target, write_file(folder, QByteArray("<svg/>\0tail", 11)));
-
-    EXPECT_EQ(target.View(), "<svg/>");
-}
-
-TEST_F(CVqAbstractBitmapPoolTest, LoadSVGOfAnEmptyFileEmptiesTheTarget)
+TEST_P(CVqAbstractBitmapPoolLoadSVG, GivesTheTextUpToItsFirstZero)
 {
     use_bare_pool();
     const QTemporaryDir folder;
     CVqStringA target;
     target = "old";
 
-    EXPECT_EQ(Pool::LoadSVG(target, write_file(folder, "")), 0);
+    EXPECT_EQ(Pool::LoadSVG(target, write_file(folder, GetParam().content)), 0);
 
-    EXPECT_EQ(target.View(), "");
+    EXPECT_EQ(target.View(), GetParam().text);
 }
 
-TEST_F(CVqAbstractBitmapPoolTest, LoadSVGOfAMissingFileGivesMinus13AndLeavesTheTarget)
+INSTANTIATE_TEST_SUITE_P(Files, CVqAbstractBitmapPoolLoadSVG,
+                         testing::Values(LoadSVGRow{"WholeFile", "<svg>\nü</svg>\n", "<svg>\nü</svg>\n"},
+                                         LoadSVGRow{"LineEndsOfText", "<svg>\r\n</svg>\r\n",
+                                                    "<svg>\n</svg>\n"},
+                                         LoadSVGRow{"ZeroByte", QByteArray("<svg/>\0tail", 11), "<svg/>"},
+                                         LoadSVGRow{"EmptyFile", "", ""}),
+                         [](const auto& row) { return std::string(row.param.name); });
+
+TEST_P(CVqAbstractBitmapPoolLoadSVGFailure, GivesMinus13AndLeavesTheTarget)
 {
     use_bare_pool();
     const QTemporaryDir folder;
+    const CVqStringW name = GetParam().name_in(folder);
     CVqStringA target;
     target = "old";
 
-    EXPECT_EQ(Pool::LoadSVG(target, CVqStringW::FromQString(folder.filePath(QStringLiteral("none.svg")))),
-              -13);
+    EXPECT_EQ(Pool::LoadSVG(target, name), -13);
 
     EXPECT_EQ(target.View(), "old");
 }
 
-TEST_F(CVqAbstractBitmapPoolTest, LoadSVGOfAFolderGivesMinus13)
-{
-    use_bare_pool();
-    const QTemporaryDir folder;
-    CVqStringA target;
+INSTANTIATE_TEST_SUITE_P(Names, CVqAbstractBitmapPoolLoadSVGFailure,
+                         testing::Values(LoadSVGFailureRow{"MissingFile",
+                                                           [](const QTemporaryDir& folder) {
+                                                               return CVqStringW::FromQString(folder.filePath(
+                                                                   QStringLiteral("none.svg")));
+                                                           }},
+                                         LoadSVGFailureRow{"Folder",
+                                                           [](const QTemporaryDir& folder) {
+                                                               return CVqStringW::FromQString(folder.path());
+                                                           }},
+                                         LoadSVGFailureRow{
+                                             "EmptyName", [](const QTemporaryDir&) { return CVqStringW(); }}),
+                         [](const auto& row) { return std::string(row.param.name); });
 
-    EXPECT_EQ(Pool::LoadSVG(target, CVqStringW::FromQString(folder.path())), -13);
-}
-
-TEST_F(CVqAbstractBitmapPoolTest, LoadSVGOfNoNameGivesMinus13)
+TEST_F(CVqAbstractBitmapPoolTest, LoadSVGOfANullNameGivesMinus13)
 {
     use_bare_pool();
     CVqStringA target;
 
     EXPECT_EQ(Pool::LoadSVG(target, nullptr), -13);
-    EXPECT_EQ(Pool::LoadSVG(target, VQ_TEXT("")), -13);
 }
 
 TEST(CVqAbstractBitmapPoolSlots, OperationsStandInTheirOrder)
