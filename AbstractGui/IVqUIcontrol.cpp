@@ -1,0 +1,3 @@
+#include "AbstractGui/IVqUIcontrol.h"
+
+IVqUIcontrol::~IVqUIcontrol() = default;
