@@ -3,6 +3,7 @@
 #include "AbstractGui/CVqAbstractBitmapPool.h"
 #include "AbstractGui/CVqAbstractControl.h"
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "AbstractGui/CVqAbstractToolbar.h"
 #include "AbstractGui/CVqMenuItem.h"
 #include "AbstractGui/IVqMenuBase.h"
 #include "AbstractGui/IVqUIcontrol.h"
@@ -23,6 +24,7 @@ template struct Slots<CVqAbstractControl>;
 template struct Slots<CVqAbstractMenu>;
 template struct Slots<CVqAbstractMenu::IVqVisitorData>;
 template struct Slots<CVqAbstractMenu::SVqManipulators>;
+template struct Slots<CVqAbstractToolbar>;
 template struct Slots<CVqMenuItem>;
 template struct Slots<CVqQtAbstractListModel>;
 template struct Slots<CVqSortFilterProxyModel>;
