@@ -1,6 +1,7 @@
 // The classes whose virtual operations stand in a fixed order. Nobody runs this file: tools/list_slots asks a
 // compiler for the table of each Slots<...>.
 #include "AbstractGui/CVqAbstractBitmapPool.h"
+#include "AbstractGui/CVqAbstractButtonToolbar.h"
 #include "AbstractGui/CVqAbstractControl.h"
 #include "AbstractGui/CVqAbstractMenu.h"
 #include "AbstractGui/CVqAbstractToolbar.h"
@@ -20,6 +21,7 @@ struct Slots : Class
 };
 
 template struct Slots<CVqAbstractBitmapPool>;
+template struct Slots<CVqAbstractButtonToolbar>;
 template struct Slots<CVqAbstractControl>;
 template struct Slots<CVqAbstractMenu>;
 template struct Slots<CVqAbstractMenu::IVqVisitorData>;
