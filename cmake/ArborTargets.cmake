@@ -3,6 +3,9 @@ include(GenerateExportHeader)
 include(GoogleTest)
 include(GNUInstallDirs)
 
+# Where QML modules are installed, each in the folder of its name: an import path.
+set(ARBOR_QML_DIR ${CMAKE_INSTALL_LIBDIR}/qt6/qml)
+
 # Flags of the project's own code; a project that embeds the libraries never sees them.
 function(arbor_flags target)
   target_compile_definitions(${target} PRIVATE
@@ -38,6 +41,21 @@ function(arbor_library name)
   install(TARGETS ${name} EXPORT K7ArborTargets
     FILE_SET HEADERS DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/K7_arbor_qml_support
     FILE_SET generated DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/K7_arbor_qml_support)
+endfunction()
+
+# arbor_install_qml_plugin(<library>)
+# Installs what an engine and tools need to import the QML module of <library> by a path: the plug-in, which loads the
+# library, and the list of types.
+function(arbor_install_qml_plugin name)
+  get_target_property(plugin ${name} QT_QML_MODULE_PLUGIN_TARGET)
+  get_target_property(module ${name} QT_QML_MODULE_TARGET_PATH)
+  get_target_property(output ${name} QT_QML_MODULE_OUTPUT_DIRECTORY)
+  get_target_property(types ${name} QT_QML_MODULE_TYPEINFO)
+  set(folder ${ARBOR_QML_DIR}/${module})
+  file(RELATIVE_PATH up /${folder} /${CMAKE_INSTALL_LIBDIR})
+  set_target_properties(${plugin} PROPERTIES INSTALL_RPATH $ORIGIN/${up})
+  install(TARGETS ${plugin} LIBRARY DESTINATION ${folder})
+  install(FILES ${output}/qmldir ${output}/${types} DESTINATION ${folder})
 endfunction()
 
 # arbor_sources(<target> <class>... [HEADERS <name>...] [SOURCES <name>...] [INTERNAL <class>...])

@@ -16,7 +16,8 @@ class CheckLayers(ScriptCase):
         self.include("AbstractGui/B.h", "system/A.h")
         self.include("qml/C.h", "system/A.h")
         self.include("Top.h", "AbstractGui/B.h", "qml/C.h")
-        self.include("quick_backend/D.h", "Top.h", "AbstractGui/B.h")
+        self.include("tile_assets/T.h")
+        self.include("quick_backend/D.h", "Top.h", "AbstractGui/B.h", "tile_assets/T.h")
         self.include("gallery/E.cpp", "quick_backend/D.h")
         self.include("tests/system/ATest.cpp", "system/A.h")
         self.assert_accepted()
@@ -35,10 +36,32 @@ class CheckLayers(ScriptCase):
                 self.include(f"{source}/A.h", f"{target}/B.h")
                 self.assert_refused(f"{source}/A.h:1: {source} must not include {target}/B.h")
 
+    def test_refuses_the_library_on_icons_and_icons_on_anything(self):
+        self.include("tile_assets/T.h")
+        self.include("system/A.h")
+        self.include("AbstractGui/B.h", "tile_assets/T.h")
+        self.assert_refused("AbstractGui/B.h:1: AbstractGui must not include tile_assets/T.h")
+        self.include("AbstractGui/B.h")
+        self.include("tile_assets/T.h", "system/A.h")
+        self.assert_refused("tile_assets/T.h:1: tile_assets must not include system/A.h")
+
     def test_refuses_the_library_on_its_back_end(self):
         self.include("quick_backend/B.h")
         self.include("Top.cpp", "quick_backend/B.h")
         self.assert_refused("Top.cpp:1: . must not include quick_backend/B.h")
+
+    def test_refuses_the_library_and_its_back_end_on_the_qml_module(self):
+        for source in ("qml", "quick_backend"):
+            with self.subTest(source=source):
+                self.setUp()
+                self.include("qml_module/B.h")
+                self.include(f"{source}/A.h", "qml_module/B.h")
+                self.assert_refused(f"{source}/A.h:1: {source} must not include qml_module/B.h")
+
+    def test_refuses_the_qml_module_on_the_back_end(self):
+        self.include("quick_backend/B.h")
+        self.include("qml_module/A.h", "quick_backend/B.h")
+        self.assert_refused("qml_module/A.h:1: qml_module must not include quick_backend/B.h")
 
     def test_refuses_anything_on_the_gallery_the_tests_and_the_benchmarks(self):
         for target in ("gallery", "tests", "bench"):

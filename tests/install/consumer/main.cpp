@@ -2,9 +2,13 @@
 #include <QGuiApplication>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <qml/CVqGuiSupport.h>
+#include <qml_module/VqQmlModule.h>
 #include <quick_backend/CVqQuickMenu.h>
 
 #include <AbstractGui/CVqAccelerators.h>
+#include <arbor_qml_support.h>
+#include <memory>
 #include <system/CVqStringW.h>
 
 namespace {
@@ -26,6 +30,11 @@ bool key_parses()
     return CVqAccelerators::ParseAccel(CVqStringW(VQ_TEXT("Ctrl+O")), &flags, &key) && key == VQ_TEXT('O');
 }
 
+bool number_is_written_as_text()
+{
+    return CVqGuiSupport().makeHEX(0xff0a0b0c) == QLatin1String("#0a0b0c");
+}
+
 bool qml_loads()
 {
     QQmlEngine engine;
@@ -34,10 +43,26 @@ bool qml_loads()
     return !component.isError();
 }
 
+bool qml_calls_the_module()
+{
+    VQ_AddQmlModule();
+    Quick::Register::Init();
+    QQmlEngine engine;
+    QQmlComponent component(&engine);
+    component.setData(
+        "import QtQml\nimport K7.Arbor\nQtObject { property real red: GuiSupport.RGBFromHSL(0, 1, 0.5)[0] }",
+        QUrl());
+    const std::unique_ptr<QObject> object(component.create());
+    return object && object->property("red") == 255;
+}
+
 }
 
 int main(int argc, char** argv)
 {
     const QGuiApplication app(argc, argv);
-    return command_runs() && key_parses() && qml_loads() ? 0 : 1;
+    return command_runs() && key_parses() && number_is_written_as_text() && qml_loads()
+            && qml_calls_the_module()
+        ? 0
+        : 1;
 }
