@@ -103,6 +103,39 @@ function(arbor_tests name)
     PROPERTIES TIMEOUT 120 ${environment})
 endfunction()
 
+# arbor_quick_tests(<name> DEPENDS <targets>... SOURCES <files>... SUITES <TestFile>... [PARTS <file>...])
+# Tests in QML: the program of SOURCES runs the TestCase in each <TestFile>.qml, <suite>Test.qml, with one CTest entry
+# <suite>.<case> a function test_<case>. PARTS: other QML files. They are the QML module K7.Arbor.Tests.
+function(arbor_quick_tests name)
+  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "DEPENDS;SOURCES;SUITES;PARTS")
+  add_executable(${name} ${arg_SOURCES})
+  target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR})
+  target_link_libraries(${name} PRIVATE Qt6::QuickTest ${arg_DEPENDS})
+  arbor_flags(${name})
+  set(files ${arg_SUITES} ${arg_PARTS})
+  list(TRANSFORM files APPEND ".qml")
+  qt_add_qml_module(${name}
+    URI K7.Arbor.Tests
+    VERSION 1.0
+    NO_PLUGIN
+    NO_CACHEGEN
+    OUTPUT_DIRECTORY ${PROJECT_BINARY_DIR}/qml/K7/Arbor/Tests
+    IMPORT_PATH ${PROJECT_BINARY_DIR}/qml
+    DEPENDENCIES QtQuick QtTest K7.Arbor
+    QML_FILES ${files})
+  foreach(file ${arg_SUITES})
+    set(path ${CMAKE_CURRENT_SOURCE_DIR}/${file}.qml)
+    string(REGEX REPLACE "Test$" "" suite ${file})
+    set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${path})
+    file(STRINGS ${path} cases REGEX "^ *function test_[A-Za-z0-9]+\\(")
+    list(TRANSFORM cases REPLACE "^ *function test_([A-Za-z0-9]+).*" "\\1")
+    foreach(case ${cases})
+      add_test(NAME ${suite}.${case} COMMAND ${name} -input ${path} ${suite}::test_${case})
+      set_tests_properties(${suite}.${case} PROPERTIES TIMEOUT 120 ENVIRONMENT QT_QPA_PLATFORM=offscreen)
+    endforeach()
+  endforeach()
+endfunction()
+
 # arbor_bench(<name> [DISPLAY] DEPENDS <targets>... [SOURCES <name>...])
 # The benchmark program of <name>.cpp and SOURCES. DISPLAY: it needs OpenGL on an X display; its folder tells
 # tools/bench so.
