@@ -80,7 +80,7 @@ bool CVqQtAbstractListModel::setData(const QModelIndex& index, const QVariant& v
 bool CVqQtAbstractListModel::insertRows(int row, int count, const QModelIndex& parent)
 {
     const Guard guard(mutex);
-    if (!has_row(rows, row) || count < 1 || qint64(row) + count > std::numeric_limits<int>::max())
+    if (!has_row(rows, row) || count < 1 || rows.size() + qint64(count) > std::numeric_limits<int>::max())
         return false;
     beginInsertRows(parent, row, row + count - 1);
     rows.insert(std::min<qsizetype>(row, rows.size()), count, QVariant());

@@ -50,8 +50,8 @@ public:
     bool setData(const QModelIndex& index, const QVariant& value, int role = Qt::EditRole) override;
 
     /// Puts `count` empty rows before `row`, which must be there already: so nothing can be put behind the
-    /// last row or into an empty model. False where `row` or `count`, which is at least 1, does not fit, or
-    /// their sum leaves 32 bits. `parent` only goes into the signals.
+    /// last row or into an empty model. False where there is no such row, where `count` is below 1, and where
+    /// there would be more rows than an int counts. `parent` only goes into the signals.
     bool insertRows(int row, int count, const QModelIndex& parent = QModelIndex()) override;
 
     /// Takes `count` rows away, `row` the first. At least two rows must remain behind them: false for a range

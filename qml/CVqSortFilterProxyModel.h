@@ -43,8 +43,9 @@ class ARBOR_QML_SUPPORT_EXPORT CVqSortFilterProxyModel : public QSortFilterProxy
     Q_PROPERTY(FilterSyntax filterSyntax READ filterSyntax WRITE setFilterSyntax)
 
 public:
-    /// How the filter's text is read.
-    enum FilterSyntax
+    /// How the filter's text is read. An int, since callers may set any number; one without a name leaves the
+    /// filter as it was.
+    enum FilterSyntax : int
     {
         RegExp,      ///< A regular expression, found anywhere in the value.
         Wildcard,    ///< `*`, `?` and `[...]`, found anywhere in the value.

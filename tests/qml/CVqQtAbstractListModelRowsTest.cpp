@@ -89,6 +89,7 @@ INSTANTIATE_TEST_SUITE_P(CVqQtAbstractListModelRows, RefusedInsertion,
                                          Range{"BeforeTheFirstRow", -1, 1}, Range{"FarBefore", g_least, 1},
                                          Range{"NoRows", 0, 0}, Range{"FewerThanNoRows", 0, -1},
                                          Range{"SumBeyond32Bits", 1, g_most},
+                                         Range{"MoreThan32BitsCountWithThePresentOnes", 0, g_most - 2},
                                          Range{"AllBeyond32Bits", g_most, g_most}),
                          name_of);
 
