@@ -31,9 +31,13 @@ public:
 
     /// Whether there is a file or folder. A link counts by what it points to.
     Q_INVOKABLE bool exists(const QString& filepath) const;
+    /// Whether there is a folder, or a link to one.
     Q_INVOKABLE bool isDir(const QString& filepath) const;
+    /// Whether there is a file, or a link to one.
     Q_INVOKABLE bool isFile(const QString& filepath) const;
+    /// Whether the path begins at the root. By its text alone, as isRelative().
     Q_INVOKABLE bool isAbsolute(const QString& filepath) const;
+    /// The opposite of isAbsolute(), but for the empty path, for which both are false.
     Q_INVOKABLE bool isRelative(const QString& filepath) const;
     /// False for what Qt itself serves, such as compiled resources.
     Q_INVOKABLE bool isNativePath(const QString& filepath) const;
@@ -56,6 +60,7 @@ public:
     Q_INVOKABLE QString completeBaseName(const QString& filepath) const;
     /// The absolute path of the folder that the file is in.
     Q_INVOKABLE QString absolutePath(const QString& filepath) const;
+    /// The path from the root on, without "." and "..".
     Q_INVOKABLE QString absoluteFilePath(const QString& filepath) const;
     /// The name behind its last ".".
     Q_INVOKABLE QString suffix(const QString& filepath) const;
@@ -66,12 +71,14 @@ public:
     Q_INVOKABLE QString canonicalPath(const QString& filepath) const;
     /// The absolute path without links; empty if there is no such file.
     Q_INVOKABLE QString canonicalFilePath(const QString& filepath) const;
+    /// The path as the platform writes it, which is with backslashes on Windows.
     Q_INVOKABLE QString toNativeSeparators(const QString& filepath) const;
+    /// The path as Qt writes it, with "/".
     Q_INVOKABLE QString fromNativeSeparators(const QString& filepath) const;
 
-    /// The time when the file was made, as local time in a format of QDateTime::toString(); QML may leave the
-    /// format out, which is "yyyy-MM-dd HH:mm" then. Empty if there is no file, or the file system keeps no
-    /// such time.
+    /// The time when the file was made, as local time in a format of QDateTime::toString(), with English
+    /// names of days and months. QML may leave the format out, which is "yyyy-MM-dd HH:mm" then. Empty if
+    /// there is no file, or the file system keeps no such time.
     Q_INVOKABLE QString creationTime(const QString& filepath, const QString& format ARBOR_QML_OPTIONAL) const;
     /// As creationTime(), for the time when the file was written last.
     Q_INVOKABLE QString modifyTime(const QString& filepath, const QString& format ARBOR_QML_OPTIONAL) const;
@@ -85,6 +92,7 @@ public:
     Q_INVOKABLE bool createDirectory(const QString& folder) const;
     /// The path of a "file" address; empty for any other address.
     Q_INVOKABLE QString urlToLocalFile(const QUrl& url) const;
+    /// The "file" address of a path; empty for the empty path.
     Q_INVOKABLE QUrl urlFromLocalFile(const QString& filepath) const;
 
     /// The folder of the AI networks that come with the application, with "/" at its end. `relative`: as seen

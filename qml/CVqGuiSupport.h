@@ -79,6 +79,8 @@ public:
     /// 0xBFBFBF for each grey.
     Q_INVOKABLE vq_uint32 pastelARGB(vq_uint32 argb);
 
+    // Bytes of colours, taken out and put together by the table above.
+
     Q_INVOKABLE vq_uint8 redFromABGR(vq_uint32 abgr);
     Q_INVOKABLE vq_uint8 greenFromABGR(vq_uint32 abgr);
     Q_INVOKABLE vq_uint8 blueFromABGR(vq_uint32 abgr);
@@ -89,9 +91,8 @@ public:
     Q_INVOKABLE vq_uint8 alphaFromARGB(vq_uint32 argb);
     Q_INVOKABLE vq_uint32 makeABGR(vq_uint8 a, vq_uint8 b, vq_uint8 g, vq_uint8 r);
     Q_INVOKABLE vq_uint32 makeARGB(vq_uint8 a, vq_uint8 r, vq_uint8 g, vq_uint8 b);
-    /// The colour that makeHEX() wrote: 6 or 8 characters of hexadecimal digits, in any case, behind an
-    /// optional
-    /// "#"; 6 give an opaque colour. 0 for anything else. The characters are read as QString::toUInt() does,
-    /// so among them may be blanks at the ends, a plus sign or "0x".
+    /// The colour that makeHEX() wrote: 6 or 8 hexadecimal digits, in any case, behind a "#" or not; 6 give
+    /// an opaque colour. 0 for anything else. The digits are read as QString::toUInt() does, so blanks at the
+    /// ends, a plus sign and "0x" may stand for some of them.
     Q_INVOKABLE vq_uint32 makeARGB(const QString& hex);
 };

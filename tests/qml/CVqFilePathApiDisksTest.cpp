@@ -2,6 +2,7 @@
 #include "tests/qml/ChildProcess.h"
 #include "tests/qml/FolderTree.h"
 
+#include <QDir>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -133,6 +134,43 @@ TEST_F(CVqFilePathApiDisks, ReadOnlyDiskIsNotWritable)
     if (answer.starts_with(no_disk))
         GTEST_SKIP() << answer;
     EXPECT_EQ(answer, "no, no");
+}
+
+TEST_F(CVqFilePathApiDisks, FirstLevelOfAPathMayBeMissingToo)
+{
+    const std::string answer = OnDisk("size=64k", [this]() -> std::string {
+        if (chroot(QFile::encodeName(Path(QString())).constData()) != 0)
+            return no_disk + std::strerror(errno);
+        QDir::setCurrent(u"/"_s);
+        const std::string writable = yes_or_no(CVqFilePathApi::isWritable(u"/new/b"_s));
+        return QDir(u"/"_s).isEmpty() ? writable : writable + ", a trace";
+    });
+
+    if (answer.starts_with(no_disk))
+        GTEST_SKIP() << answer;
+    EXPECT_EQ(answer, "yes");
+}
+
+TEST_F(CVqFilePathApiDisks, FoldersThatSomebodyElseMakesMeanwhileDoNoHarm)
+{
+    const auto folder
+        = [this](int call) { return Path(QString::number(call) + u"/b/c/d/e/f/g/h/i/j/k/l"_s); };
+    std::atomic<int> current = 0;
+    std::atomic<bool> is_over = false;
+    std::thread somebody([&] {
+        while (!is_over)
+            QDir().mkpath(folder(current));
+    });
+
+    int refused = 0;
+    for (int call = 0; call < 300; ++call) {
+        current = call;
+        refused += !CVqFilePathApi::isWritable(folder(call));
+    }
+    is_over = true;
+    somebody.join();
+
+    EXPECT_EQ(refused, 0);
 }
 
 TEST_F(CVqFilePathApiDisks, WhatSomebodyElsePutsThereMeanwhileStays)

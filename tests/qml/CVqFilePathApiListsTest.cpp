@@ -78,6 +78,15 @@ TEST_F(CVqFilePathApiLists, FilesAndFoldersAreSortedWithoutRegardToCase)
               QStringList({u"."_s, u".."_s, u"A.txt"_s, u"b.txt"_s, u"bb"_s, u"C.png"_s, u"ä"_s}));
 }
 
+TEST_F(CVqFilePathApiLists, EmptyFilterListsEverythingAlsoFolders)
+{
+    MakeFiles({u"file"_s, u"no suffix"_s, u"picture.png"_s});
+    ASSERT_TRUE(QDir().mkdir(Path(u"folder"_s)));
+
+    EXPECT_EQ(m_api.filesInFolder(Path(QString()), QString()),
+              QStringList({u"."_s, u".."_s, u"file"_s, u"folder"_s, u"no suffix"_s, u"picture.png"_s}));
+}
+
 TEST_F(CVqFilePathApiLists, FilterHasSeveralPatternsInAnyCase)
 {
     MakeFiles({u"one.TXT"_s, u"two.png"_s, u"three.jpg"_s});

@@ -193,6 +193,11 @@ TEST(CVqFilePathApi, HasClonesOfTheMethodsWhoseFormatQmlMayLeaveOut)
     EXPECT_THAT(names_of_methods(is_clone), ElementsAre("creationTime", "modifyTime"));
 }
 
+TEST(CVqFilePathApi, HoldsNoData)
+{
+    EXPECT_EQ(sizeof(CVqFilePathApi), sizeof(QObject));
+}
+
 TEST(CVqFilePathApi, HasNoPropertiesAndNoEnumerations)
 {
     const QMetaObject& meta = CVqFilePathApi::staticMetaObject;

@@ -70,6 +70,43 @@ const KnownRow known_rows[] = {
 class CVqGuiSupportKnown : public testing::TestWithParam<KnownRow>
 { };
 
+struct RoundedRow
+{
+    const char* name;
+    SPaperColour colour;
+    Floats hsl;
+    Floats hsv;
+};
+
+void PrintTo(const RoundedRow& row, std::ostream* out)
+{
+    *out << row.name;
+}
+
+// Worked out step by step, each rounded to 24 bits. Hue and both saturations differ from the floats next
+// to the true ones, which is what a calculation in double precision gives.
+const RoundedRow rounded_rows[] = {
+    {"Olive",
+     {136, 145, 63},
+     {0x1.7acbf6p-3F, 0x1.93b13ep-2F, 0x1.a1a1a2p-2F},
+     {0x1.7acbf6p-3F, 0x1.218b7cp-1F, 0x1.232324p-1F}},
+    {"Teal",
+     {21, 173, 160},
+     {0x1.f1674ep-2F, 0x1.912798p-1F, 0x1.858586p-2F},
+     {0x1.f1674ep-2F, 0x1.c1d988p-1F, 0x1.5b5b5cp-1F}},
+    {"Indigo",
+     {49, 52, 164},
+     {0x1.531b76p-1F, 0x1.146e94p-1F, 0x1.ababacp-2F},
+     {0x1.531b76p-1F, 0x1.670640p-1F, 0x1.49494ap-1F}},
+    {"Wine",
+     {123, 45, 67},
+     {0x1.e7ee80p-1F, 0x1.db6db4p-2F, 0x1.515152p-2F},
+     {-0x1.811810p-5F, 0x1.44aed2p-1F, 0x1.ededeep-2F}},
+};
+
+class CVqGuiSupportRounded : public testing::TestWithParam<RoundedRow>
+{ };
+
 }
 
 TEST_P(CVqGuiSupportKnown, GivesHueSaturationAndLightness)
@@ -91,6 +128,15 @@ TEST_P(CVqGuiSupportKnown, GivesHueSaturationAndValue)
 }
 
 INSTANTIATE_TEST_SUITE_P(Colours, CVqGuiSupportKnown, testing::ValuesIn(known_rows),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_P(CVqGuiSupportRounded, IsComputedInSinglePrecisionThroughout)
+{
+    EXPECT_EQ(hsl(GetParam().colour), GetParam().hsl);
+    EXPECT_EQ(hsv(GetParam().colour), GetParam().hsv);
+}
+
+INSTANTIATE_TEST_SUITE_P(Colours, CVqGuiSupportRounded, testing::ValuesIn(rounded_rows),
                          [](const auto& row) { return row.param.name; });
 
 TEST(CVqGuiSupportColours, RedIsExact)

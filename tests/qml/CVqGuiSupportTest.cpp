@@ -137,6 +137,11 @@ TEST(CVqGuiSupport, HasConstMethodsUpToThePatterns)
     EXPECT_EQ(last_that_is_const(CVqGuiSupport::staticMetaObject), "regexStr_intPos");
 }
 
+TEST(CVqGuiSupport, HoldsNoData)
+{
+    EXPECT_EQ(sizeof(CVqGuiSupport), sizeof(QObject));
+}
+
 TEST(CVqGuiSupport, HasNoPropertiesAndNoEnumerations)
 {
     const QMetaObject& meta = CVqGuiSupport::staticMetaObject;

@@ -61,6 +61,8 @@ class AnnouncedChange : public testing::TestWithParam<Change>
 { };
 class CallWithoutTheLock : public testing::TestWithParam<Change>
 { };
+class CallUnderTheLock : public testing::TestWithParam<Change>
+{ };
 
 }
 
@@ -175,6 +177,29 @@ INSTANTIATE_TEST_SUITE_P(
                            0},
                     Change{"LongMoveToItsOwnPlace",
                            [](NamedRows& model) { model.moveRow(QModelIndex(), 1, QModelIndex(), 1); }, 0}),
+    name_of);
+
+// A call that does not wait comes back long before the time is over; one that waits never does.
+TEST_P(CallUnderTheLock, WaitsWhileAnotherThreadHoldsIt)
+{
+    NamedRows model({u"a"_s, u"b"_s, u"c"_s, u"d"_s});
+    std::unique_lock lock(model.mutex);
+
+    std::future<void> call = std::async(std::launch::async, GetParam().run, std::ref(model));
+
+    EXPECT_EQ(call.wait_for(std::chrono::milliseconds(100)), std::future_status::timeout);
+    lock.unlock();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    CVqQtAbstractListModelLock, CallUnderTheLock,
+    testing::Values(Change{"RowCount", [](NamedRows& model) { model.rowCount(); }, 0},
+                    Change{"ColumnCount", [](NamedRows& model) { model.columnCount(); }, 0},
+                    Change{"RefusedInsertion", [](NamedRows& model) { model.insertRows(-1, 1); }, 0},
+                    Change{"RefusedRemoval", [](NamedRows& model) { model.removeRows(-1, 1); }, 0},
+                    Change{"RefusedMove",
+                           [](NamedRows& model) { model.moveRow(QModelIndex(), -1, QModelIndex(), 1); }, 0},
+                    Change{"ShortMoveToItsOwnPlace", [](NamedRows& model) { model.moveRow(1, 1); }, 0}),
     name_of);
 
 // The other thread would see one of the many counts in between if the count did not wait for the lock.

@@ -134,6 +134,13 @@ TEST(CVqQtAbstractListModel, DataOfARowThatHasGoneIsInvalid)
     EXPECT_FALSE(model.data(index, NamedRows::Name).isValid());
 }
 
+TEST(CVqQtAbstractListModel, DataOfAnotherColumnIsInvalid)
+{
+    const NamedRows model({u"sky"_s});
+
+    EXPECT_FALSE(model.data(model.createdIndex(0, 1), NamedRows::Name).isValid());
+}
+
 TEST(CVqQtAbstractListModel, DataOfACountThatADerivedClassMadeUpIsInvalid)
 {
     class LongerRows : public NamedRows
@@ -278,6 +285,7 @@ TEST(CVqQtAbstractListModel, SetDataRefusesAnIndexThatIsNotThere)
 
     EXPECT_FALSE(model.setData(QModelIndex(), u"lake"_s, NamedRows::Name));
     EXPECT_FALSE(model.setData(gone, u"lake"_s, NamedRows::Name));
+    EXPECT_FALSE(model.setData(model.createdIndex(0, 1), u"lake"_s, NamedRows::Name));
 
     EXPECT_THAT(log.Lines(), IsEmpty());
 }

@@ -2,6 +2,8 @@
 
 #include "tests/qml/NamedRows.h"
 
+#include <QAbstractTableModel>
+
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -73,6 +75,12 @@ TEST(CVqRowFilter, AnEscapedLetterKeepsItsMeaning)
 {
     EXPECT_TRUE(accepts(u"\\d"_s, u"7"_s));
     EXPECT_FALSE(accepts(u"\\d"_s, u"d"_s));
+}
+
+TEST(CVqRowFilter, ANumberInBracesIsACount)
+{
+    EXPECT_TRUE(accepts(u"a{2}"_s, u"caab"_s));
+    EXPECT_FALSE(accepts(u"a{2}"_s, u"a{2}"_s));
 }
 
 TEST(CVqRowFilter, TheOptionsOfTheExpressionHold)
@@ -199,6 +207,60 @@ INSTANTIATE_TEST_SUITE_P(
                     Change{"LayoutChanged", [](NamedRows& model) { Q_EMIT model.layoutChanged(); }},
                     Change{"Reset", [](NamedRows& model) { model.Clear(); }}),
     name_of);
+
+namespace {
+
+/// Two columns of one row that can trade places and be joined by a third.
+class Columns : public QAbstractTableModel
+{
+public:
+    int rowCount(const QModelIndex& parent = QModelIndex()) const override
+    {
+        return parent.isValid() ? 0 : 1;
+    }
+    int columnCount(const QModelIndex& = QModelIndex()) const override { return m_count; }
+    QVariant data(const QModelIndex&, int) const override { return QVariant(); }
+
+    void Insert()
+    {
+        beginInsertColumns(QModelIndex(), m_count, m_count);
+        ++m_count;
+        endInsertColumns();
+    }
+
+    void Swap()
+    {
+        beginMoveColumns(QModelIndex(), 1, 1, QModelIndex(), 0);
+        endMoveColumns();
+    }
+
+private:
+    int m_count = 2;
+};
+
+}
+
+TEST(CVqRowFilter, ForgetsWhenAColumnComes)
+{
+    Columns model;
+    CVqRowFilter filter(&model);
+    prepare(filter);
+
+    model.Insert();
+
+    EXPECT_FALSE(filter.IsReadyFor(any_expression()));
+}
+
+TEST(CVqRowFilter, ForgetsWhenColumnsTradePlaces)
+{
+    Columns model;
+    CVqRowFilter filter(&model);
+    prepare(filter);
+
+    model.Swap();
+
+    EXPECT_FALSE(filter.IsReadyFor(any_expression()));
+}
 
 TEST(CVqRowFilter, OutlivesItsSource)
 {

@@ -3,6 +3,7 @@
 
 #include <QAbstractTableModel>
 #include <QSignalSpy>
+#include <QStandardItemModel>
 
 #include <gmock/gmock.h>
 
@@ -135,6 +136,23 @@ TEST(CVqSortFilterProxyModelFilter, ARowWithoutAnIndexDoesNotPassWhereNoRoleIsCh
     proxy.setFilterString(u"x"_s);
 
     EXPECT_EQ(proxy.count(), 0);
+}
+
+TEST(CVqSortFilterProxyModelFilter, RowsUnderARowAreFilteredByTheirOwnValues)
+{
+    QStandardItemModel tree;
+    tree.appendRow(new QStandardItem(u"sky"_s));
+    for (const QString& name : {u"cloud"_s, u"sky lark"_s, u"sun"_s})
+        tree.item(0)->appendRow(new QStandardItem(name));
+    Proxy proxy;
+    proxy.setSource(&tree);
+    proxy.setFilterRole("display");
+
+    proxy.setFilterString(u"sky"_s);
+
+    const QModelIndex sky = proxy.index(0, 0);
+    ASSERT_EQ(proxy.rowCount(sky), 1);
+    EXPECT_EQ(proxy.index(0, 0, sky).data(), QVariant(u"sky lark"_s));
 }
 
 TEST(CVqSortFilterProxyModelFilter, TheSameTextDoesNotFilterAnew)

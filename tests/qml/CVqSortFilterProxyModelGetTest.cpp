@@ -107,6 +107,22 @@ TEST_F(CVqSortFilterProxyModelGet, GetKnowsRolesWhoseNamesAreNotAscii)
     EXPECT_EQ(m_proxy.get(0, u"größe"_s), QVariant(12));
 }
 
+TEST_F(CVqSortFilterProxyModelGet, GetByANameThatTwoRolesShareReadsTheFirstOfTheHash)
+{
+    class Numbers : public NamedRows
+    {
+    public:
+        QVariant data(const QModelIndex&, int role) const override { return role; }
+    };
+    const QHash<int, QByteArray> names{{41, "name"}, {42, "name"}, {43, "size"}};
+    Numbers model;
+    model.SetRoleNames(names);
+    model.rows += QVariant();
+    m_proxy.setSource(&model);
+
+    EXPECT_EQ(m_proxy.get(0, u"name"_s), QVariant(names.key("name")));
+}
+
 TEST_F(CVqSortFilterProxyModelGet, GetByRoleOutsideTheRowsIsInvalid)
 {
     EXPECT_FALSE(m_proxy.get(-1, u"name"_s).isValid());

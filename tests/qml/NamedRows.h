@@ -60,8 +60,8 @@ public:
         endResetModel();
     }
 
-    /// The index of `row`, without asking whether there is such a row.
-    QModelIndex createdIndex(int row) const { return createIndex(row, 0); }
+    /// The index of a place, without asking whether there is such a place.
+    QModelIndex createdIndex(int row, int column = 0) const { return createIndex(row, column); }
 
     QHash<int, QByteArray> roleNames() const override { return m_roleNames; }
     /// Without a signal.
