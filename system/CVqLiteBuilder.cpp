@@ -11,14 +11,27 @@ CVqLiteBuilder::CVqLiteBuilder(ELists lists) : m_eLists(lists)
     m_data.m_slots.resize(32);
     m_data.m_names.emplace_back();
     m_lastLevel.push_back(0);
+    m_next.push_back(SVqLiteData::empty_name);
     m_data.m_nodes.emplace_back().m_eType = EVqVariantType::Level;
     m_open.push_back(0);
 }
 
+// Records of a list have the same names in the same order, so the name that followed last time comes first.
 vq_uint32 CVqLiteBuilder::name_number(std::basic_string_view<vq_wchar> name)
 {
     if (name.empty())
         return SVqLiteData::empty_name;
+    const vq_uint32 likely = m_next[m_uiLastName];
+    if (m_data.name_of(likely) == name)
+        return m_uiLastName = likely;
+    const vq_uint32 number = look_up(name);
+    if (number != SVqLiteData::no_name)
+        m_uiLastName = m_next[m_uiLastName] = number;
+    return number;
+}
+
+vq_uint32 CVqLiteBuilder::look_up(std::basic_string_view<vq_wchar> name)
+{
     const std::size_t hash = m_data.hash(name);
     vq_uint32& slot = m_data.m_slots[m_data.slot_of(name, hash)];
     if (slot)
@@ -27,10 +40,13 @@ vq_uint32 CVqLiteBuilder::name_number(std::basic_string_view<vq_wchar> name)
         return SVqLiteData::no_name;
     const auto number = static_cast<vq_uint32>(m_data.m_names.size());
     slot = number + 1;
+    m_data.m_uiBeginnings
+        |= SVqLiteData::beginning_of(std::basic_string<vq_wchar>(name.substr(0, 2)).c_str());
     m_data.m_names.push_back(
         {static_cast<vq_uint32>(m_data.m_text.size()), static_cast<vq_uint32>(name.size()), hash});
     m_data.m_text += name;
     m_lastLevel.push_back(0);
+    m_next.push_back(SVqLiteData::empty_name);
     grow_slots();
     return number;
 }

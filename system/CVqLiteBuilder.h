@@ -33,6 +33,7 @@ public:
     SVqLiteData take();
 
 private:
+    vq_uint32 look_up(std::basic_string_view<vq_wchar> name);
     SVqLiteData::SNode& open_level() { return m_data.m_nodes[m_open.back()]; }
     bool fits(std::size_t units) const;
     SVqLiteData::SNode& add_node(EVqVariantType type, vq_uint32 name, vq_uint16 run_type);
@@ -44,4 +45,6 @@ private:
     SVqLiteData m_data;
     std::vector<vq_uint32> m_open;      // indices of the levels that are open, outermost first
     std::vector<vq_uint32> m_lastLevel; // for each name: index + 1 of the level that got it last
+    std::vector<vq_uint32> m_next;      // for each name: the one that was asked for behind it
+    vq_uint32 m_uiLastName = SVqLiteData::empty_name;
 };

@@ -5,8 +5,10 @@
 #include "system/VqTypes.h"
 
 #include <memory>
+#include <string_view>
 #include <vector>
 
+class CVqLiteIndex;
 struct SVqLiteData;
 
 /// A cursor over what a CVqLiteVariantW wrote or a device gave.
@@ -15,7 +17,8 @@ struct SVqLiteData;
 /// sublevels in the order in which they were written. Entering a level stands on its first entry; leaving it
 /// stands where the outer level stood before. Named operations look at the whole level and neither need nor
 /// move the cursor; of a repeated name they see the first. They are fastest when names are asked for in their
-/// written order. Copies are cheap and have cursors of their own. Calls that don't fit together fail without
+/// written order; in any other order a look-up costs no more than the logarithm of the level's size on
+/// average. Copies are cheap and have cursors of their own. Calls that don't fit together fail without
 /// harm. Null names and texts read as empty. A look-up remembers its place, so each thread needs a copy of
 /// its own; copies may be used at the same time.
 ///
@@ -60,6 +63,16 @@ public:
     /// or `size` is not positive (-9).
     int GetCurrentName(vq_wchar* buffer, int size) const;
 
+    // The entry under the cursor: as the named ones, and nothing behind the last one ------------------
+
+    /// Valid as long as this reader is neither assigned to nor destroyed.
+    std::basic_string_view<vq_wchar> CurrentName() const;
+
+    bool IsCurrentValueSet() const;
+    int GetCurrent(int default_value) const;
+    bool GetCurrent(bool default_value) const;
+    CVqStringW& GetCurrent(CVqStringW& out, const vq_wchar* default_value) const;
+
     // Named entries of the current level -------------------------------------------------------------
 
     /// True for a value and for a sublevel of that name.
@@ -77,13 +90,22 @@ private:
 
     struct SPlace
     {
-        vq_uint32 m_uiLevel;  // index of the level's node
-        vq_uint32 m_uiCursor; // index of the entry; the level's end behind the last one
-        vq_uint32 m_uiHit;    // where the last look-up by name succeeded
+        vq_uint32 m_uiLevel;      // index of the level's node
+        vq_uint32 m_uiCursor;     // index of the entry; the level's end behind the last one
+        vq_uint32 m_uiHit;        // where the last look-up by name succeeded
+        vq_uint64 m_uiWalked = 0; // entries that look-ups walked over
+        std::shared_ptr<const CVqLiteIndex> m_pIndex{}; // once they have walked too far
     };
 
     ARBOR_SYSTEM_NO_EXPORT void start(std::shared_ptr<const SVqLiteData> data);
     ARBOR_SYSTEM_NO_EXPORT vq_uint32 find(const vq_wchar* name) const;
+    ARBOR_SYSTEM_NO_EXPORT vq_uint32 search(SPlace& place, vq_uint32 name) const;
+    ARBOR_SYSTEM_NO_EXPORT vq_uint32 walk(SPlace& place, vq_uint32 name) const;
+    ARBOR_SYSTEM_NO_EXPORT vq_uint32 current() const;
+    ARBOR_SYSTEM_NO_EXPORT bool is_set_at(vq_uint32 index) const;
+    ARBOR_SYSTEM_NO_EXPORT int number_at(vq_uint32 index, int default_value) const;
+    ARBOR_SYSTEM_NO_EXPORT CVqStringW& text_at(vq_uint32 index, CVqStringW& out,
+                                               const vq_wchar* default_value) const;
     ARBOR_SYSTEM_NO_EXPORT int enter(vq_uint32 index, int* count);
 
     std::shared_ptr<const SVqLiteData> m_pData; // null: no entries, and no places

@@ -61,8 +61,7 @@ QString CVqStringW::ToQString() const
 
 CVqStringW& CVqStringW::operator=(const vq_wchar* text)
 {
-    m_strText = string_type(VqView(text));
-    return *this;
+    return Assign(VqView(text));
 }
 
 CVqStringW& CVqStringW::operator=(const string_type& text)

@@ -5,6 +5,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 class QString;
 
@@ -36,6 +37,7 @@ public:
 
     /// Copies all units, zeros among them.
     CVqStringW(const string_type& text);
+    CVqStringW(string_type&& text) noexcept : m_strText(std::move(text)) { }
 
     static CVqStringW FromQString(const QString& text);
     QString ToQString() const;

@@ -23,11 +23,11 @@ const CVqVariant& empty_node()
 }
 
 template <typename Value>
-Value reported(const std::optional<Value>& value, bool* ok)
+Value reported(std::optional<Value> value, bool* ok)
 {
     if (ok)
         *ok = value.has_value();
-    return value.value_or(Value());
+    return std::move(value).value_or(Value());
 }
 
 template <typename Children>
@@ -74,6 +74,10 @@ CVqVariant::CVqVariant(const vq_wchar* value, const CVqStringW& name)
 
 CVqVariant::CVqVariant(const CVqVariant& other)
 {
+    if (other.m_children.empty()) {
+        copy_own_fields(other);
+        return;
+    }
     std::vector<std::pair<const CVqVariant*, CVqVariant*>> pending{{&other, this}};
     while (!pending.empty()) {
         const auto [from, to] = pending.back();
@@ -88,8 +92,15 @@ CVqVariant::CVqVariant(const CVqVariant& other)
 }
 
 CVqVariant::CVqVariant(CVqVariant&& other) noexcept
+    : m_strName(std::move(other.m_strName)),
+      m_strText(std::move(other.m_strText)),
+      m_pRunType(std::move(other.m_pRunType)),
+      m_children(std::move(other.m_children)),
+      m_uiBits(std::exchange(other.m_uiBits, 0u)),
+      m_eType(std::exchange(other.m_eType, EVqVariantType::Empty)),
+      m_bTypeChange(std::exchange(other.m_bTypeChange, false))
 {
-    swap_with(other);
+    other.m_strName = CVqStringW();
 }
 
 CVqVariant::~CVqVariant()
@@ -151,13 +162,70 @@ const CVqVariant* CVqVariant::IndexPtr(int index) const
 
 CVqVariant& CVqVariant::Append(const CVqVariant& child)
 {
-    const bool scalar = m_eType != EVqVariantType::Empty && m_eType != EVqVariantType::Level;
-    if (scalar && !m_bTypeChange)
+    return can_append() ? append(std::make_unique<CVqVariant>(child)) : fresh_scratch();
+}
+
+CVqVariant& CVqVariant::Append(CVqVariant&& child)
+{
+    return can_append() ? append(std::make_unique<CVqVariant>(std::move(child))) : fresh_scratch();
+}
+
+CVqVariant& CVqVariant::Append(bool value, const vq_wchar* name)
+{
+    return append_bits(EVqVariantType::Bool, value ? 1u : 0u, name);
+}
+
+CVqVariant& CVqVariant::Append(unsigned int value, const vq_wchar* name)
+{
+    return append_bits(EVqVariantType::Uint, value, name);
+}
+
+CVqVariant& CVqVariant::Append(int value, const vq_wchar* name)
+{
+    return append_bits(EVqVariantType::Int, static_cast<vq_uint32>(value), name);
+}
+
+CVqVariant& CVqVariant::Append(const vq_wchar* value, const vq_wchar* name)
+{
+    if (!can_append())
         return fresh_scratch();
-    auto copy = std::make_unique<CVqVariant>(child);
+    std::unique_ptr<CVqVariant> child = make(EVqVariantType::Text, name);
+    child->m_strText.Assign(VqView(value));
+    return append(std::move(child));
+}
+
+CVqVariant& CVqVariant::append_bits(EVqVariantType type, vq_uint32 bits, const vq_wchar* name)
+{
+    if (!can_append())
+        return fresh_scratch();
+    std::unique_ptr<CVqVariant> child = make(type, name);
+    child->m_uiBits = bits;
+    return append(std::move(child));
+}
+
+// In the place where it stays: to move a short text that was just written costs more than to write it.
+std::unique_ptr<CVqVariant> CVqVariant::make(EVqVariantType type, const vq_wchar* name)
+{
+    auto node = std::make_unique<CVqVariant>();
+    node->m_strName.Assign(VqView(name));
+    node->m_eType = type;
+    return node;
+}
+
+bool CVqVariant::can_append() const
+{
+    return m_bTypeChange || m_eType == EVqVariantType::Empty || m_eType == EVqVariantType::Level;
+}
+
+CVqVariant& CVqVariant::append(std::unique_ptr<CVqVariant> child)
+{
+    constexpr std::size_t usual_count = 8; // of the fields of a record
+    if (m_children.empty())
+        m_children.reserve(usual_count);
+    m_children.push_back(std::move(child));
+    if (m_eType != EVqVariantType::Level)
+        m_strText = CVqStringW();
     m_eType = EVqVariantType::Level;
-    m_strText = CVqStringW();
-    m_children.push_back(std::move(copy));
     return *m_children.back();
 }
 
@@ -168,10 +236,17 @@ bool CVqVariant::EnableTypeChange(bool enable)
 
 void CVqVariant::SetRunType(const CVqVariantRunType& type)
 {
-    m_strRunType = type.GetName();
+    const CVqStringA& name = type.GetName();
+    m_pRunType = name.IsEmpty() ? nullptr : std::make_unique<const CVqStringA>(name);
     const bool bare = m_children.empty() && (IsEmpty() || m_eType == EVqVariantType::Level);
     if (bare)
-        m_eType = m_strRunType.IsEmpty() ? EVqVariantType::Empty : EVqVariantType::Level;
+        m_eType = m_pRunType ? EVqVariantType::Level : EVqVariantType::Empty;
+}
+
+const CVqStringA& CVqVariant::GetRunType() const
+{
+    static const CVqStringA none;
+    return m_pRunType ? *m_pRunType : none;
 }
 
 vq_uint32 CVqVariant::GetVq_uint32(bool* ok) const
@@ -198,7 +273,7 @@ void CVqVariant::copy_own_fields(const CVqVariant& other)
 {
     m_strName = other.m_strName;
     m_strText = other.m_strText;
-    m_strRunType = other.m_strRunType;
+    m_pRunType = other.m_pRunType ? std::make_unique<const CVqStringA>(*other.m_pRunType) : nullptr;
     m_uiBits = other.m_uiBits;
     m_eType = other.m_eType;
     m_bTypeChange = other.m_bTypeChange;
@@ -208,7 +283,7 @@ void CVqVariant::swap_with(CVqVariant& other) noexcept
 {
     std::swap(m_strName, other.m_strName);
     std::swap(m_strText, other.m_strText);
-    std::swap(m_strRunType, other.m_strRunType);
+    m_pRunType.swap(other.m_pRunType);
     m_children.swap(other.m_children);
     std::swap(m_uiBits, other.m_uiBits);
     std::swap(m_eType, other.m_eType);

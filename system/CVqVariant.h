@@ -92,6 +92,21 @@ public:
     /// without it nothing is stored and an empty node as above is returned.
     CVqVariant& Append(const CVqVariant& child);
 
+    /// The same without a copy: what is stored is taken from `child`, which must not hold this node.
+    CVqVariant& Append(CVqVariant&& child);
+
+    /// Appends a named scalar, in less time than one that is made first.
+    CVqVariant& Append(bool value, const vq_wchar* name);
+    CVqVariant& Append(unsigned int value, const vq_wchar* name);
+    CVqVariant& Append(int value, const vq_wchar* name);
+
+    /// Null is the empty text.
+    CVqVariant& Append(const vq_wchar* value, const vq_wchar* name);
+
+    /// Other pointers would turn into a bool.
+    template <typename T>
+    CVqVariant& Append(const T* value, const vq_wchar* name) = delete;
+
     // Name and type ----------------------------------------------------------------------------------
 
     void SetName(const CVqStringW& name) { m_strName = name; }
@@ -106,7 +121,7 @@ public:
     void SetRunType(const CVqVariantRunType& type);
 
     /// Empty when none was given.
-    const CVqStringA& GetRunType() const { return m_strRunType; }
+    const CVqStringA& GetRunType() const;
 
     EVqVariantType GetType() const { return m_eType; }
 
@@ -128,12 +143,16 @@ private:
     using children_type = std::vector<std::unique_ptr<CVqVariant>>;
 
     ARBOR_SYSTEM_NO_EXPORT CVqVariant(EVqVariantType type, vq_uint32 bits, const CVqStringW& name);
+    ARBOR_SYSTEM_NO_EXPORT bool can_append() const;
+    ARBOR_SYSTEM_NO_EXPORT CVqVariant& append(std::unique_ptr<CVqVariant> child);
+    ARBOR_SYSTEM_NO_EXPORT CVqVariant& append_bits(EVqVariantType type, vq_uint32 bits, const vq_wchar* name);
+    ARBOR_SYSTEM_NO_EXPORT static std::unique_ptr<CVqVariant> make(EVqVariantType type, const vq_wchar* name);
     ARBOR_SYSTEM_NO_EXPORT void copy_own_fields(const CVqVariant& other);
     ARBOR_SYSTEM_NO_EXPORT void swap_with(CVqVariant& other) noexcept;
 
     CVqStringW m_strName;
-    CVqStringW m_strText; // of a text
-    CVqStringA m_strRunType;
+    CVqStringW m_strText;                         // of a text
+    std::unique_ptr<const CVqStringA> m_pRunType; // null: none, as in nearly all nodes
     children_type m_children;
     vq_uint32 m_uiBits = 0; // of a bool, int or uint
     EVqVariantType m_eType = EVqVariantType::Empty;

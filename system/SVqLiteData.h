@@ -24,9 +24,9 @@ struct SVqLiteData
         vq_uint32 m_uiValue = 0; ///< Bits; of a text its offset; of a level its number of entries.
         vq_uint32 m_uiExtra = 0; ///< Of a text its length; of a level the index behind its last entry.
         EVqVariantType m_eType = EVqVariantType::Empty;
-        bool m_bNamed = false;     ///< Level: an entry has a name.
-        bool m_bRepeats = false;   ///< Level: a name may stand there more than once.
-        vq_uint16 m_uiRunType = 0; ///< 0: none, else index + 1 into m_runTypes.
+        bool m_bNamed : 1 = false;   ///< Level: an entry has a name.
+        bool m_bRepeats : 1 = false; ///< Level: a name may stand there more than once.
+        vq_uint16 m_uiRunType = 0;   ///< 0: none, else index + 1 into m_runTypes.
     };
 
     struct SName
@@ -43,10 +43,11 @@ struct SVqLiteData
     std::basic_string<vq_wchar> m_text; ///< Names and texts, without terminators.
     vq_uint32 m_uiRoot = 0;             ///< The node that is the data: the outermost level, or its one entry.
     std::size_t m_uiSeed = 0;           ///< Of the hash: names come from files, too.
+    vq_uint64 m_uiBeginnings = 0;       ///< A bit for the first two units of each name; names may share one.
 
     std::basic_string_view<vq_wchar> text(vq_uint32 offset, vq_uint32 length) const
     {
-        return std::basic_string_view<vq_wchar>(m_text).substr(offset, length);
+        return {m_text.data() + offset, length};
     }
 
     std::basic_string_view<vq_wchar> text_of(const SNode& node) const
@@ -54,11 +55,12 @@ struct SVqLiteData
         return text(node.m_uiValue, node.m_uiExtra);
     }
 
-    std::basic_string_view<vq_wchar> name_of(const SNode& node) const
+    std::basic_string_view<vq_wchar> name_of(vq_uint32 number) const
     {
-        const SName& name = m_names[node.m_uiName];
-        return text(name.m_uiOffset, name.m_uiLength);
+        return text(m_names[number].m_uiOffset, m_names[number].m_uiLength);
     }
+
+    std::basic_string_view<vq_wchar> name_of(const SNode& node) const { return name_of(node.m_uiName); }
 
     std::string_view run_type_of(const SNode& node) const
     {
@@ -89,6 +91,15 @@ struct SVqLiteData
         }
         return slot;
     }
+
+    /// Of a terminated text.
+    static vq_uint64 beginning_of(const vq_wchar* name)
+    {
+        return *name ? vq_uint64(1) << ((name[0] + 3u * name[1]) % 64) : 0;
+    }
+
+    /// False for most of the names that stand nowhere. Of a terminated text.
+    bool may_have(const vq_wchar* name) const { return *name == 0 || (m_uiBeginnings & beginning_of(name)); }
 
     vq_uint32 find_name(std::basic_string_view<vq_wchar> name) const
     {

@@ -39,9 +39,9 @@ public:
         if (m_size == 0)
             return EVqStorageResult::CutShort;
         read_root();
-        while (good() && !m_frames.empty())
+        while (check() && !m_frames.empty())
             read_next();
-        if (good() && m_reader.currentOffset() != m_size)
+        if (check() && m_reader.currentOffset() != m_size)
             m_result = EVqStorageResult::TrailingBytes;
         if (!good())
             return m_result;
@@ -67,16 +67,20 @@ private:
         bool m_bUnsigned = false;
     };
 
-    bool good()
+    /// Whether nothing has failed yet, as far as was noticed: an error of the reader shows at the latest in
+    /// check(), and a reader with an error offers no more values of any type.
+    bool good() const { return m_result == EVqStorageResult::Ok; }
+
+    bool check()
     {
-        if (m_result == EVqStorageResult::Ok)
+        if (good())
             m_result = result_of(static_cast<QCborError::Code>(m_reader.lastError().c));
-        return m_result == EVqStorageResult::Ok;
+        return good();
     }
 
     void fail(EVqStorageResult result)
     {
-        if (good())
+        if (check())
             m_result = result;
     }
 
@@ -104,7 +108,7 @@ private:
 
     void leave()
     {
-        if (!good() || !m_reader.leaveContainer())
+        if (!check() || !m_reader.leaveContainer())
             return fail(EVqStorageResult::BadBytes);
         if (m_frames.back() != EFrame::Wrapper)
             m_builder.end_level();
@@ -246,7 +250,7 @@ private:
         if (!good())
             return m_text;
         read_chunks();
-        if (good())
+        if (check())
             units ? decode_units() : decode_utf8();
         return m_text;
     }
@@ -269,6 +273,10 @@ private:
 
     void decode_utf8()
     {
+        if (std::all_of(m_bytes.begin(), m_bytes.end(), [](char byte) { return byte >= 0; })) {
+            m_text.assign(m_bytes.begin(), m_bytes.end());
+            return;
+        }
         const QUtf8StringView utf8(m_bytes.data(), static_cast<qsizetype>(m_bytes.size()));
         if (!utf8.isValidUtf8())
             return fail(EVqStorageResult::BadBytes);

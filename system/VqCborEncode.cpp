@@ -3,6 +3,7 @@
 #include "system/VqCborTags.h"
 
 #include <QCborStreamWriter>
+#include <QIODevice>
 
 #include <algorithm>
 #include <string>
@@ -13,14 +14,37 @@ namespace {
 using SNode = SVqLiteData::SNode;
 using view_type = std::basic_string_view<vq_wchar>;
 
+/// Takes what the writer hands over piece by piece. A QBuffer takes several times as long for each.
+class CByteSink final : public QIODevice
+{
+public:
+    CByteSink() { open(WriteOnly | Unbuffered); }
+
+    const std::string& Bytes() const { return m_bytes; }
+
+    bool isSequential() const override { return true; }
+
+protected:
+    qint64 readData(char*, qint64) override { return -1; }
+
+    qint64 writeData(const char* data, qint64 size) override
+    {
+        m_bytes.append(data, static_cast<std::size_t>(size));
+        return size;
+    }
+
+private:
+    std::string m_bytes;
+};
+
 class CCborEncoder
 {
 public:
-    CCborEncoder(const SVqLiteData& data, QByteArray& bytes)
-        : m_data(data), m_writer(&bytes), m_keys(data.m_names.size() * 2)
+    explicit CCborEncoder(const SVqLiteData& data)
+        : m_data(data), m_writer(&m_sink), m_keys(data.m_names.size() * 2)
     { }
 
-    EVqStorageResult run()
+    EVqStorageResult run(QByteArray& bytes)
     {
         const vq_uint32 root = m_data.m_uiRoot;
         const bool named = m_data.m_nodes[root].m_uiName != SVqLiteData::empty_name;
@@ -31,6 +55,7 @@ public:
         const EVqStorageResult result = write_nodes(root, m_data.behind(root));
         if (named)
             m_writer.endArray();
+        bytes = QByteArray::fromStdString(m_sink.Bytes());
         return result;
     }
 
@@ -150,6 +175,7 @@ private:
     }
 
     const SVqLiteData& m_data;
+    CByteSink m_sink;
     QCborStreamWriter m_writer;
     std::vector<vq_uint32> m_keys; // for each pair of name and kind: its number + 1, or 0
     std::vector<SLevel> m_levels;
@@ -162,5 +188,5 @@ private:
 
 EVqStorageResult encode_cbor(const SVqLiteData& data, QByteArray& bytes)
 {
-    return CCborEncoder(data, bytes).run();
+    return CCborEncoder(data).run(bytes);
 }

@@ -3,7 +3,9 @@
 #include "system/CVqLiteBuilder.h"
 #include "system/CVqVariant.h"
 
+#include <memory>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -15,7 +17,8 @@ struct SVqVariantAccess
     static void fill(CVqVariant& to, const SVqLiteData& data, const SNode& node)
     {
         to.m_strName.Assign(data.name_of(node));
-        to.m_strRunType = std::string(data.run_type_of(node)).c_str();
+        if (node.m_uiRunType)
+            to.m_pRunType = run_type(data.run_type_of(node));
         to.m_eType = node.m_eType;
         if (node.m_eType == EVqVariantType::Text)
             to.m_strText.Assign(data.text_of(node));
@@ -23,6 +26,13 @@ struct SVqVariantAccess
             to.m_children.reserve(node.m_uiValue);
         else
             to.m_uiBits = node.m_uiValue;
+    }
+
+    static std::unique_ptr<const CVqStringA> run_type(std::string_view name)
+    {
+        auto type = std::make_unique<CVqStringA>();
+        *type = std::string(name).c_str();
+        return type;
     }
 
     static CVqVariant& add_child(CVqVariant& parent)

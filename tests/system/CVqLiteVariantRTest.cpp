@@ -251,6 +251,97 @@ TEST_F(CVqLiteVariantRTest, NamesAreFoundInAnyOrder)
     }
 }
 
+// Entry by entry, each of these would walk the level from end to end.
+TEST_F(CVqLiteVariantRTest, NamesOfAVeryLargeLevelAreFoundInReverseOrder)
+{
+    constexpr int count = 200'000;
+    for (const bool repeats : {false, true}) {
+        CVqLiteVariantW writer;
+        for (int i = 0; i < count; ++i)
+            writer.Set(i, numbered(i));
+        if (repeats)
+            writer.Set(-1, numbered(0));
+        writer.Finalize(m_reader, 0);
+
+        for (int i = count - 1; i >= 0; --i)
+            ASSERT_EQ(m_reader.Get(numbered(i), -1), i);
+    }
+}
+
+TEST_F(CVqLiteVariantRTest, ALargeLevelIsFoundAlikeByACopyAndAfterItWasLeft)
+{
+    CVqLiteVariantW writer;
+    writer.LevelBegin(VQ_TEXT("Level"));
+    for (int i = 0; i < 2'000; ++i)
+        writer.Set(i, numbered(i));
+    writer.LevelEnd();
+    writer.Set(7, numbered(3));
+    writer.Finalize(m_reader, 0);
+    m_reader.LevelBegin(VQ_TEXT("Level"));
+    for (int i = 1'999; i >= 0; --i)
+        m_reader.Get(numbered(i), -1);
+
+    const CVqLiteVariantR copy(m_reader);
+    m_reader.LevelEnd();
+
+    EXPECT_EQ(copy.Get(numbered(3), -1), 3);
+    EXPECT_FALSE(copy.IsValueSet(VQ_TEXT("Level")));
+    EXPECT_EQ(m_reader.Get(numbered(3), -1), 7);
+}
+
+TEST_F(CVqLiteVariantRTest, TheEntryUnderTheCursorIsReadWithoutItsName)
+{
+    CVqLiteVariantW writer;
+    writer.Set(5, VQ_TEXT("Twice"));
+    writer.Set(VQ_TEXT("text"), VQ_TEXT("Twice"));
+    writer.LevelBegin(VQ_TEXT("Level"));
+    writer.LevelEnd();
+    writer.Finalize(m_reader, 0);
+
+    EXPECT_EQ(m_reader.CurrentName(), VQ_TEXT("Twice"));
+    EXPECT_EQ(m_reader.GetCurrent(9), 5);
+    EXPECT_TRUE(m_reader.GetCurrent(false));
+    EXPECT_EQ(m_reader.GetCurrent(m_text, VQ_TEXT("d")), VQ_TEXT("5"));
+    m_reader.NextValue();
+    EXPECT_EQ(m_reader.GetCurrent(9), 9);
+    EXPECT_EQ(&m_reader.GetCurrent(m_text, VQ_TEXT("d")), &m_text);
+    EXPECT_EQ(m_text, VQ_TEXT("text"));
+    m_reader.NextValue();
+    EXPECT_EQ(m_reader.CurrentName(), VQ_TEXT("Level"));
+    EXPECT_TRUE(m_reader.IsCurrentValueSet());
+    EXPECT_EQ(m_reader.GetCurrent(9), 9);
+    EXPECT_EQ(m_reader.GetCurrent(m_text, VQ_TEXT("d")), VQ_TEXT("d"));
+}
+
+TEST_F(CVqLiteVariantRTest, BehindTheLastEntryThereIsNoCurrentOne)
+{
+    const CVqLiteVariantR empty;
+
+    EXPECT_EQ(empty.CurrentName(), VQ_TEXT(""));
+    EXPECT_FALSE(empty.IsCurrentValueSet());
+    EXPECT_EQ(empty.GetCurrent(9), 9);
+    EXPECT_TRUE(empty.GetCurrent(true));
+    EXPECT_EQ(empty.GetCurrent(m_text, VQ_TEXT("d")), VQ_TEXT("d"));
+}
+
+TEST_F(CVqLiteVariantRTest, NamesWithTheSameBeginningAreToldApart)
+{
+    CVqLiteVariantW writer;
+    writer.Set(1, VQ_TEXT("Col"));
+    writer.Set(2, VQ_TEXT("Col1"));
+    writer.Set(3, VQ_TEXT("C"));
+    writer.Set(4, VQ_TEXT(""));
+    writer.Finalize(m_reader, 0);
+
+    EXPECT_EQ(m_reader.Get(VQ_TEXT("C"), 0), 3);
+    EXPECT_EQ(m_reader.Get(VQ_TEXT("Col1"), 0), 2);
+    EXPECT_EQ(m_reader.Get(VQ_TEXT("Col"), 0), 1);
+    EXPECT_EQ(m_reader.Get(VQ_TEXT(""), 0), 4);
+    EXPECT_EQ(m_reader.Get(null_text, 0), 4);
+    EXPECT_EQ(m_reader.Get(VQ_TEXT("Col11"), 0), 0);
+    EXPECT_EQ(m_reader.Get(VQ_TEXT("Co"), 0), 0);
+}
+
 TEST_F(CVqLiteVariantRTest, ManyLevelsAndManyEntriesNeedNoStack)
 {
     run_in_small_stack([] {

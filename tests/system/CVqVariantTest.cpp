@@ -192,6 +192,70 @@ TEST(CVqVariant, AppendStoresACopyThatTheCallerFills)
     EXPECT_EQ(empty.GetCount(), 0);
 }
 
+TEST(CVqVariant, AppendTakesOverWhatIsMoved)
+{
+    CVqVariant tree;
+    CVqVariant level(VQ_TEXT("text"), VQ_TEXT("Level"));
+    level.EnableTypeChange(true);
+    level.Append(CVqVariant(5, VQ_TEXT("Id")));
+    const CVqVariant* child = level.IndexPtr(0);
+
+    CVqVariant& stored = tree.Append(std::move(level));
+
+    EXPECT_EQ(stored.GetName(), VQ_TEXT("Level"));
+    EXPECT_EQ(stored.IndexPtr(0), child);
+    EXPECT_TRUE(stored.EnableTypeChange(true));
+    EXPECT_TRUE(level.IsEmpty()); // NOLINT(bugprone-use-after-move): a moved-from node is empty
+    EXPECT_TRUE(level.GetName().IsEmpty());
+    EXPECT_FALSE(level.EnableTypeChange(true));
+}
+
+TEST(CVqVariant, AppendMakesNamedScalars)
+{
+    CVqVariant tree;
+
+    tree.Append(true, VQ_TEXT("Bool"));
+    tree.Append(0xFFFFFFFFu, VQ_TEXT("Uint"));
+    tree.Append(-5, VQ_TEXT("Int"));
+    tree.Append(VQ_TEXT("text"), VQ_TEXT("Text"));
+    CVqVariant& last = tree.Append(static_cast<const vq_wchar*>(nullptr), nullptr);
+
+    EXPECT_EQ(tree[0].GetType(), EVqVariantType::Bool);
+    EXPECT_EQ(tree[0].GetName(), VQ_TEXT("Bool"));
+    EXPECT_EQ(tree[VQ_TEXT("Uint")].GetType(), EVqVariantType::Uint);
+    EXPECT_EQ(tree[VQ_TEXT("Uint")].GetVq_uint32(nullptr), 0xFFFFFFFFu);
+    EXPECT_EQ(tree[VQ_TEXT("Int")].GetType(), EVqVariantType::Int);
+    EXPECT_EQ(tree[VQ_TEXT("Int")].GetVq_int32(nullptr), -5);
+    EXPECT_EQ(tree[VQ_TEXT("Text")].GetCVqStringW(nullptr), VQ_TEXT("text"));
+    EXPECT_EQ(&last, tree.IndexPtr(4));
+    EXPECT_EQ(last.GetType(), EVqVariantType::Text);
+    EXPECT_TRUE(last.GetName().IsEmpty());
+}
+
+TEST(CVqVariant, AppendOfNamedScalarsToAScalarNeedsTypeChange)
+{
+    CVqVariant scalar(VQ_TEXT("old"), VQ_TEXT("Scalar"));
+
+    EXPECT_TRUE(scalar.Append(5, VQ_TEXT("Int")).IsEmpty());
+    EXPECT_TRUE(scalar.Append(VQ_TEXT("text"), VQ_TEXT("Text")).IsEmpty());
+    EXPECT_EQ(scalar.GetCVqStringW(nullptr), VQ_TEXT("old"));
+    scalar.EnableTypeChange(true);
+    EXPECT_EQ(scalar.Append(VQ_TEXT("text"), VQ_TEXT("Text")).GetCVqStringW(nullptr), VQ_TEXT("text"));
+
+    EXPECT_EQ(scalar.GetCount(), 1);
+}
+
+TEST(CVqVariant, AppendToAScalarTakesNothingOver)
+{
+    CVqVariant scalar(5, VQ_TEXT("Scalar"));
+    CVqVariant child(6, VQ_TEXT("Child"));
+
+    EXPECT_TRUE(scalar.Append(std::move(child)).IsEmpty());
+
+    EXPECT_EQ(child.GetVq_int32(nullptr), 6); // NOLINT(bugprone-use-after-move): it was left alone
+    EXPECT_EQ(scalar.GetVq_int32(nullptr), 5);
+}
+
 TEST(CVqVariant, AppendToAScalarNeedsTypeChange)
 {
     CVqVariant node(5, VQ_TEXT("number"));
