@@ -1,19 +1,25 @@
 #include "AbstractGui/CVqAccelIndex.h"
 
+#include <QHashFunctions>
+
 #include <algorithm>
 #include <bit>
 
 void CVqAccelIndex::Begin(std::size_t count)
 {
     m_slots.assign(std::bit_ceil(std::max<std::size_t>(count * 2, 16)), Slot());
+    m_next.clear();
     m_taken = 0;
+    m_seed = QHashSeed::globalSeed();
     m_in_use = true;
 }
 
 void CVqAccelIndex::Add(vq_uint64 number, int position)
 {
+    m_next.resize(static_cast<std::size_t>(position) + 1, -1);
     Slot& slot = m_slots[slot_of(number)];
     if (!slot.IsFree()) {
+        m_next[static_cast<std::size_t>(slot.span.last)] = position;
         slot.span.last = position;
         return;
     }
@@ -33,11 +39,10 @@ void CVqAccelIndex::Drop()
     m_in_use = false;
 }
 
-// Multiplying by the golden ratio spreads numbers that follow one another, as identifiers and keys do.
 std::size_t CVqAccelIndex::slot_of(vq_uint64 number) const
 {
     const std::size_t mask = m_slots.size() - 1;
-    std::size_t place = ((number * 0x9E3779B97F4A7C15U) >> 32) & mask;
+    std::size_t place = qHash(quint64(number), m_seed) & mask;
     while (!m_slots[place].IsFree() && m_slots[place].number != number)
         place = (place + 1) & mask;
     return place;

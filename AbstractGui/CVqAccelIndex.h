@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <vector>
 
-/// Hash index from a number to the first and the last position that carry it.
+/// Hash index from a number to the positions that carry it: the first, the last, and from each to the next.
 ///
 /// It is empty and not in use until Begin(). The owner adds every position in rising order and drops the
 /// whole index when positions move.
@@ -17,6 +17,8 @@ public:
     {
         int first = 0;
         int last = -1;
+
+        int FirstOrNone() const { return first <= last ? first : -1; }
     };
 
     bool IsInUse() const { return m_in_use; }
@@ -31,6 +33,9 @@ public:
     void Add(vq_uint64 number, int position);
 
     Span Find(vq_uint64 number) const;
+
+    /// The next position that carries the same number as this one, which was added; -1 behind the last.
+    int Next(int position) const { return m_next[static_cast<std::size_t>(position)]; }
 
     /// Takes the index out of use; the memory stays for the next Begin().
     void Drop();
@@ -50,7 +55,9 @@ private:
     void grow();
 
     std::vector<Slot> m_slots; // a power of two, at most three quarters taken
+    std::vector<int> m_next;   // for each position; those never added have no meaning
     std::size_t m_taken = 0;
+    std::size_t m_seed = 0; // identifiers and keys come from files, too
     int m_walks = 0;
     bool m_in_use = false;
 };

@@ -73,16 +73,18 @@ bool CVqAccelRecords::RemoveTarget(vq_uint64 target)
     return remove_from(0, [target](const SVqAccelRecord& record) { return record.target == target; });
 }
 
-// An index narrows the walk to the span from the first to the last record that fits.
+// A search that goes on behind a hit, as one for all keys of an identifier does, takes one step in an index.
 template <class Number>
 int CVqAccelRecords::find(CVqAccelIndex& index, vq_uint64 wanted, int start, Number number_of) const
 {
-    CVqAccelIndex::Span span{start, GetCount() - 1};
     if (is_indexed(index, number_of)) {
-        span = index.Find(wanted);
-        span.first = std::max(span.first, start);
+        const bool is_behind_hit = start > 0 && start <= GetCount() && number_of(At(start - 1)) == wanted;
+        int position = is_behind_hit ? index.Next(start - 1) : index.Find(wanted).FirstOrNone();
+        while (position >= 0 && position < start)
+            position = index.Next(position);
+        return position;
     }
-    for (int position = span.first; position <= span.last; ++position) {
+    for (int position = start; position < GetCount(); ++position) {
         if (number_of(At(position)) == wanted)
             return position;
     }

@@ -205,12 +205,14 @@ void VqPrintAccel(vq_wchar* out, std::size_t size, vq_uint32 flags, vq_wchar key
 
 CVqStringW VqAllAccelTexts(const CVqAccelerators& table, vq_uint32 id, const vq_wchar* separator)
 {
+    constexpr int most_keys = 256;
     std::basic_string<vq_wchar> all;
-    VqForEachAccelText(table, id, [&](View text) {
+    const auto add = [&](View text) {
         if (!all.empty())
             all.append(VqView(separator));
         all.append(text);
         return true;
-    });
-    return CVqStringW(all);
+    };
+    VqForEachAccelText(table, id, add, most_keys);
+    return CVqStringW(std::move(all));
 }

@@ -6,6 +6,7 @@
 #include "system/VqText.h"
 #include "system/VqTypes.h"
 
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -16,15 +17,16 @@ void VqPrintAccel(std::basic_string<vq_wchar>& out, vq_uint32 flags, vq_wchar ke
 void VqPrintAccel(vq_wchar* out, std::size_t size, vq_uint32 flags, vq_wchar key);
 
 /// Calls `take` with the text of each key of `id` that differs from the text before it, until `take` returns
-/// false. A record without a key has the empty text.
+/// false. A record without a key has the empty text. No more than `most` records are looked at.
 template <class Take>
-void VqForEachAccelText(const CVqAccelerators& table, vq_uint32 id, Take take)
+void VqForEachAccelText(const CVqAccelerators& table, vq_uint32 id, Take take,
+                        int most = std::numeric_limits<int>::max())
 {
     std::basic_string<vq_wchar> text;
     std::basic_string<vq_wchar> last;
     vq_uint32 flags = 0;
     vq_wchar key = 0;
-    for (int index = 0; table.GetAccelKey(id, index, &flags, &key) == 0; text.clear()) {
+    for (int index = 0; most > 0 && table.GetAccelKey(id, index, &flags, &key) == 0; text.clear(), --most) {
         if (key != vq_accel_no_key)
             VqPrintAccel(text, flags, key);
         if (text == last)
@@ -35,6 +37,7 @@ void VqForEachAccelText(const CVqAccelerators& table, vq_uint32 id, Take take)
     }
 }
 
-/// The texts of all keys of `id`, whole however many there are, as CVqAccelerators::GetAllAccelKeys() joins
-/// them into an empty area.
+/// The texts of all keys of `id`, as CVqAccelerators::GetAllAccelKeys() joins them into an empty area, as far
+/// as the first 256 go, which are more than such an area takes. Those behind are left out: a file may give a
+/// key again and again, and the label is made anew each time.
 CVqStringW VqAllAccelTexts(const CVqAccelerators& table, vq_uint32 id, const vq_wchar* separator);

@@ -74,6 +74,36 @@ TEST(CVqAccelIndex, NumbersThatCollideAreKeptApart)
         expect_span(index, vq_uint64(position) << 60, position, position);
 }
 
+TEST(CVqAccelIndex, EachPositionLeadsToTheNextOfItsNumber)
+{
+    CVqAccelIndex index;
+    index.Begin(4);
+    index.Add(7, 0);
+    index.Add(8, 1);
+    index.Add(7, 2);
+    index.Add(7, 5);
+
+    EXPECT_EQ(index.Next(0), 2);
+    EXPECT_EQ(index.Next(2), 5);
+    EXPECT_EQ(index.Next(5), -1);
+    EXPECT_EQ(index.Next(1), -1);
+}
+
+TEST(CVqAccelIndex, PositionsOfAnEarlierUseLeadNowhere)
+{
+    CVqAccelIndex index;
+    index.Begin(2);
+    index.Add(7, 0);
+    index.Add(7, 1);
+
+    index.Drop();
+    index.Begin(2);
+    index.Add(7, 0);
+    index.Add(8, 1);
+
+    EXPECT_EQ(index.Next(0), -1);
+}
+
 TEST(CVqAccelIndex, DroppedIndexBeginsEmpty)
 {
     CVqAccelIndex index;

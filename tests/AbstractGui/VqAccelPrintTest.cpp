@@ -348,3 +348,18 @@ TEST(VqAccelPrint, AllTextsOfAnUnknownIdentifierAreEmpty)
 
     EXPECT_TRUE(VqAllAccelTexts(table, 1, VQ_TEXT(", ")).IsEmpty());
 }
+
+TEST(VqAllAccelTexts, KeysBehindTheFirst256AreLeftOut)
+{
+    CVqAccelerators table;
+    for (int i = 0; i < 128; ++i) {
+        table.AddAccelKey(1, 16, VQ_TEXT('A'), 0);
+        table.AddAccelKey(1, 18, VQ_TEXT('A'), 0);
+    }
+    table.AddAccelKey(1, 16, VQ_TEXT('B'), 0);
+    std::basic_string<vq_wchar> expected = VQ_TEXT("A, Ctrl+A");
+    for (int i = 1; i < 128; ++i)
+        expected += VQ_TEXT(", A, Ctrl+A");
+
+    EXPECT_EQ(VqAllAccelTexts(table, 1, VQ_TEXT(", ")).View(), expected);
+}
