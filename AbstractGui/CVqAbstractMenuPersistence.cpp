@@ -107,7 +107,7 @@ int CVqAbstractMenu::Load(CVqVariant& in)
 {
     drop_items(Manipulators(), m_pMenuBase, m_pRoot);
 
-    if (in[root_name].GetCount() > 0) {
+    if (!in[root_name].IsEmpty()) {
         drop_chain(Manipulators(), m_pLonelyAccels);
         m_accels.RemoveAllAccels();
         Manipulators().load_from_variant(&m_accels, m_pRoot, in[root_name]);

@@ -13,7 +13,7 @@ public:
     template <class Value>
     void Set(Value value, const vq_wchar* name)
     {
-        m_record.Append(CVqVariant(value, name));
+        m_record.Append(value, name);
     }
 
 private:

@@ -3,98 +3,156 @@
 #include "system/CVqLiteVariantR.h"
 #include "system/CVqLiteVariantW.h"
 
+#include <algorithm>
+#include <vector>
+
 using Manipulators = CVqAbstractMenu::SVqManipulators;
 
 namespace {
 
-vq_uint32 number_of(const CVqLiteVariantR& in, const vq_wchar* name)
+/// What stands under the cursor of a reader.
+class CurrentValue
 {
-    return static_cast<vq_uint32>(in.Get(name, 0));
-}
+public:
+    explicit CurrentValue(const CVqLiteVariantR& in) : m_in(in) { }
 
-void read_text(const CVqLiteVariantR& in, const vq_wchar* name, CVqStringW& text)
-{
-    in.GetCVqStringW(text, name, VQ_TEXT(""));
-}
+    bool Flag() const { return m_in.GetCurrent(false); }
+    int Packed() const { return m_in.GetCurrent(0); }
+    vq_uint32 Number() const { return static_cast<vq_uint32>(Packed()); }
+    void Text(CVqStringW& out) const { m_in.GetCurrent(out, VQ_TEXT("")); }
 
-void read_common_fields(const CVqLiteVariantR& in, SVqMenuRecord& record)
-{
-    record.removed = in.Get(VQ_TEXT("Removed"), false);
-    record.deleted = in.Get(VQ_TEXT("Deleted"), false);
-    record.id = number_of(in, VQ_TEXT("Id"));
-    record.type = number_of(in, VQ_TEXT("Type"));
-    record.status = number_of(in, VQ_TEXT("Status"));
-    read_text(in, VQ_TEXT("Command"), record.command);
-}
+private:
+    const CVqLiteVariantR& m_in;
+};
 
-void read_item_fields(const CVqLiteVariantR& in, SVqMenuRecord& record)
+struct Key
 {
-    read_common_fields(in, record);
-    read_text(in, VQ_TEXT("Text"), record.text);
-    record.lineWidth = number_of(in, VQ_TEXT("LineWidth"));
-    record.col1 = number_of(in, VQ_TEXT("Col1"));
-    record.col2 = number_of(in, VQ_TEXT("Col2"));
-    read_text(in, VQ_TEXT("EnaBmpFileName"), record.image.file);
-    read_text(in, VQ_TEXT("EnaBmpResName"), record.image.resource);
-}
+    int number;
+    vq_int32 packed;
+    bool is_set;
+};
 
-// Keys count up from 0 without a gap; there cannot be more of them than values in the level. Tells if one was
-// added.
-bool read_keys(const CVqLiteVariantR& in, int values, CVqAccelerators& table, vq_uint32 id)
+// Keys count up from 0 without a gap, wherever they stand.
+class Keys
 {
-    bool added = false;
-    for (int number = 0; number < values; ++number) {
-        const CVqStringW name = VqPackedAccelName(number);
-        if (!in.IsValueSet(name))
-            break;
-        added |= VqAddPackedAccel(table, id, in.Get(name, 0));
+public:
+    /// `table` may be null: then none is added.
+    explicit Keys(CVqAccelerators* table) : m_table(table) { }
+
+    /// Adds the key that comes next, and keeps what comes too early.
+    void Take(const Key& key, bool is_id_known, vq_uint32 id)
+    {
+        if (is_id_known && m_early.empty() && key.number == m_next && key.is_set)
+            add(key, id);
+        else
+            m_early.push_back(key);
     }
-    return added;
-}
 
-void fill_item(Manipulators& tools, CVqAccelerators* table, CVqMenuItem& item, const CVqLiteVariantR& in,
-               int values)
+    /// Adds what was kept, up to the first gap. Tells if any key was added.
+    bool Finish(vq_uint32 id)
+    {
+        const auto is_before = [](const Key& left, const Key& right) { return left.number < right.number; };
+        std::stable_sort(m_early.begin(), m_early.end(), is_before);
+        for (const Key& key : m_early) {
+            if (key.number < m_next)
+                continue;
+            if (key.number > m_next || !key.is_set)
+                break;
+            add(key, id);
+        }
+        return m_added;
+    }
+
+private:
+    void add(const Key& key, vq_uint32 id)
+    {
+        m_added |= m_table && VqAddPackedAccel(*m_table, id, key.packed);
+        ++m_next;
+    }
+
+    CVqAccelerators* m_table; // not owned
+    std::vector<Key> m_early;
+    int m_next = 0;
+    bool m_added = false;
+};
+
+/// A record as it was read. Of a name that stands more than once the first counts.
+struct Record
 {
-    SVqMenuRecord record;
-    read_item_fields(in, record);
-    const bool added = table && read_keys(in, values, *table, record.id);
-    VqFillLoadedItem(tools, table, item, record, added);
+    SVqMenuRecord fields;
+    bool added_key = false;
+    bool has_sub_menu = false;
+};
+
+constexpr unsigned bit_of(EVqMenuField field)
+{
+    return 1u << static_cast<unsigned>(field);
 }
 
-void load_record(Manipulators& tools, CVqAccelerators* table, CVqMenuItem* parent, CVqLiteVariantR& in,
-                 int values)
+// Walks the level that the reader stands in, and gives the table its keys.
+Record read_record(CVqAccelerators* table, CVqLiteVariantR& in)
+{
+    Record record;
+    Keys keys(table);
+    unsigned seen = 0;
+    for (; in.IsNextValue(); in.NextValue()) {
+        const CurrentValue value(in);
+        const EVqMenuField field = VqMenuFieldOf(in.CurrentName());
+        if (field == EVqMenuField::AccelKey) {
+            keys.Take({VqPackedAccelNumber(in.CurrentName()), value.Packed(), in.IsCurrentValueSet()},
+                      seen & bit_of(EVqMenuField::Id), record.fields.id);
+            continue;
+        }
+        if (!(seen & bit_of(field)))
+            VqReadMenuField(record.fields, field, value);
+        seen |= bit_of(field);
+    }
+    record.added_key = keys.Finish(record.fields.id);
+    record.has_sub_menu = seen & bit_of(EVqMenuField::SubMenu);
+    return record;
+}
+
+// Tells if there are sub-items. A function of its own, so that nothing of the record is on the stack while
+// they are loaded.
+bool fill_item(Manipulators& tools, CVqAccelerators* table, CVqMenuItem& item, CVqLiteVariantR& in)
+{
+    const Record record = read_record(table, in);
+    VqFillLoadedItem(tools, table, item, record.fields, record.added_key);
+    return record.has_sub_menu;
+}
+
+void load_record(Manipulators& tools, CVqAccelerators* table, CVqMenuItem* parent, CVqLiteVariantR& in)
 {
     CVqMenuItem* item = VqNewLoadedItem(tools);
     if (!item)
         return;
-    fill_item(tools, table, *item, in, values);
+    const bool has_sub_menu = fill_item(tools, table, *item, in);
     if (!parent) {
         tools.freeMenuItem(item); // its keys and its image stay
         return;
     }
     tools.append_item(parent, item);
-    if (in.LevelBegin(VQ_TEXT("SubMenu")) == 0) {
+    if (has_sub_menu && VqMayHoldSubItems(*item) && in.LevelBegin(VQ_TEXT("SubMenu")) == 0) {
         tools.load_from_variant(table, item, in);
         in.LevelEnd();
     }
 }
 
 void load_accel_record(Manipulators& tools, CVqAccelerators* table, CVqLoadedAccels& accels,
-                       const CVqLiteVariantR& in, int values)
+                       CVqLiteVariantR& in)
 {
     CVqMenuItem* item = VqNewLoadedItem(tools);
     if (!item)
         return;
-    SVqMenuRecord record;
-    read_common_fields(in, record);
-    VqFillLoadedAccel(*item, record);
+    const Record record = read_record(table, in);
+    VqFillLoadedAccel(*item, record.fields);
     if (table)
-        accels.Take(item, read_keys(in, values, *table, record.id));
+        accels.Take(item, record.added_key);
     else
         tools.freeMenuItem(item);
 }
 
-// Calls `read` with the number of values of each level that has some, standing in it.
+// Calls `read` in each level that has values.
 template <class Read>
 void for_each_record(CVqLiteVariantR& in, Read read)
 {
@@ -103,7 +161,7 @@ void for_each_record(CVqLiteVariantR& in, Read read)
         if (in.CurrentLevelBegin(&values) != 0)
             continue;
         if (values > 0)
-            read(values);
+            read();
         in.LevelEnd();
     }
 }
@@ -131,7 +189,7 @@ int Manipulators::save_to_variant(CVqAccelerators* accelerators, CVqMenuItem* it
 
 int Manipulators::load_from_variant(CVqAccelerators* accelerators, CVqMenuItem* parent, CVqLiteVariantR& in)
 {
-    for_each_record(in, [&](int values) { load_record(*this, accelerators, parent, in, values); });
+    for_each_record(in, [&] { load_record(*this, accelerators, parent, in); });
     return 0;
 }
 
@@ -155,6 +213,6 @@ int Manipulators::load_accels_from_variant(CVqAccelerators* accelerators, CVqMen
     if (!head)
         return 0;
     CVqLoadedAccels accels(*this, head);
-    for_each_record(in, [&](int values) { load_accel_record(*this, accelerators, accels, in, values); });
+    for_each_record(in, [&] { load_accel_record(*this, accelerators, accels, in); });
     return 0;
 }

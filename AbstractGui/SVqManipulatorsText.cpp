@@ -4,6 +4,7 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace {
 
@@ -19,10 +20,12 @@ View label_of(View text)
 
 CVqStringW label_with_key(View label, View key_text)
 {
-    Text text(label);
+    Text text;
+    text.reserve(label.size() + 1 + key_text.size());
+    text += label;
     text += bell;
     text += key_text;
-    return CVqStringW(text);
+    return CVqStringW(std::move(text));
 }
 
 /// Whether the `&` at `position` stays: before the mnemonic, ignoring case, and before another `&`. One at

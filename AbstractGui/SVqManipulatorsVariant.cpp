@@ -3,110 +3,58 @@
 #include "AbstractGui/SVqMenuRecord.h"
 #include "system/CVqVariant.h"
 
+#include <utility>
+
 using Manipulators = CVqAbstractMenu::SVqManipulators;
 
 namespace {
 
-using ReadField = void (*)(SVqMenuRecord& record, const CVqVariant& value);
-
-struct Field
+/// A field of a stored record.
+class NodeValue
 {
-    const vq_wchar* name;
-    ReadField read;
+public:
+    explicit NodeValue(const CVqVariant& node) : m_node(node) { }
+
+    bool Flag() const { return m_node.GetBool(nullptr); }
+    vq_uint32 Number() const { return m_node.GetVq_uint32(nullptr); }
+    void Text(CVqStringW& out) const { out = m_node.GetCVqStringW(nullptr); }
+
+private:
+    const CVqVariant& m_node;
 };
 
-template <auto Member>
-void read_bool(SVqMenuRecord& record, const CVqVariant& value)
+/// A record as it was read. Of a name that stands more than once the last counts, of keys each one.
+struct Record
 {
-    record.*Member = value.GetBool(nullptr);
-}
-
-template <auto Member>
-void read_number(SVqMenuRecord& record, const CVqVariant& value)
-{
-    record.*Member = value.GetVq_uint32(nullptr);
-}
-
-template <auto Member>
-void read_text(SVqMenuRecord& record, const CVqVariant& value)
-{
-    record.*Member = value.GetCVqStringW(nullptr);
-}
-
-template <auto Member>
-void read_image_text(SVqMenuRecord& record, const CVqVariant& value)
-{
-    record.image.*Member = value.GetCVqStringW(nullptr);
-}
-
-constexpr Field common_fields[] = {
-    {VQ_TEXT("Id"), read_number<&SVqMenuRecord::id>},
-    {VQ_TEXT("Type"), read_number<&SVqMenuRecord::type>},
-    {VQ_TEXT("Status"), read_number<&SVqMenuRecord::status>},
-    {VQ_TEXT("Command"), read_text<&SVqMenuRecord::command>},
-    {VQ_TEXT("Removed"), read_bool<&SVqMenuRecord::removed>},
-    {VQ_TEXT("Deleted"), read_bool<&SVqMenuRecord::deleted>},
-};
-
-constexpr Field item_fields[] = {
-    {VQ_TEXT("Text"), read_text<&SVqMenuRecord::text>},
-    {VQ_TEXT("EnaBmpFileName"), read_image_text<&SVqImageReference::file>},
-    {VQ_TEXT("EnaBmpResName"), read_image_text<&SVqImageReference::resource>},
-    {VQ_TEXT("LineWidth"), read_number<&SVqMenuRecord::lineWidth>},
-    {VQ_TEXT("Col1"), read_number<&SVqMenuRecord::col1>},
-    {VQ_TEXT("Col2"), read_number<&SVqMenuRecord::col2>},
-};
-
-// Tells if the child is a field of the table; a name that stands twice counts with its last value.
-template <std::size_t Count>
-bool read_field(const Field (&fields)[Count], SVqMenuRecord& record, const CVqVariant& child)
-{
-    for (const Field& field : fields) {
-        if (child.GetName() == field.name) {
-            field.read(record, child);
-            return true;
-        }
-    }
-    return false;
-}
-
-// A key counts for the identifier that was read so far.
-bool read_key(const CVqVariant& child, CVqAccelerators* table, vq_uint32 id)
-{
-    return table && VqIsPackedAccelName(child.GetName())
-        && VqAddPackedAccel(*table, id, child.GetVq_int32(nullptr));
-}
-
-// Gives the child that holds the sub-items, or null.
-CVqVariant* fill_item(Manipulators& tools, CVqAccelerators* table, CVqMenuItem& item, CVqVariant& stored)
-{
-    SVqMenuRecord record;
+    SVqMenuRecord fields;
     CVqVariant* sub_menu = nullptr;
-    bool added = false;
+    bool added_key = false;
+};
+
+// A key counts for the identifier that was read so far. `table` may be null.
+Record read_record(CVqAccelerators* table, CVqVariant& stored)
+{
+    Record record;
     for (int i = 0; i < stored.GetCount(); ++i) {
         CVqVariant& child = *stored.IndexPtr(i);
-        if (read_field(common_fields, record, child) || read_field(item_fields, record, child))
-            continue;
-        added |= read_key(child, table, record.id);
-        if (child.GetName() == VQ_TEXT("SubMenu"))
-            sub_menu = &child;
+        const EVqMenuField field = VqMenuFieldOf(child.GetName().View());
+        if (field == EVqMenuField::SubMenu)
+            record.sub_menu = &child;
+        else if (field != EVqMenuField::AccelKey)
+            VqReadMenuField(record.fields, field, NodeValue(child));
+        else if (table)
+            record.added_key |= VqAddPackedAccel(*table, record.fields.id, child.GetVq_int32(nullptr));
     }
-    VqFillLoadedItem(tools, table, item, record, added);
-    return sub_menu;
+    return record;
 }
 
-// Tells if a key was added.
-bool fill_accel(CVqAccelerators* table, CVqMenuItem& item, const CVqVariant& stored)
+// Gives the child that holds the sub-items, or null. A function of its own, so that nothing of the record is
+// on the stack while they are loaded.
+CVqVariant* fill_item(Manipulators& tools, CVqAccelerators* table, CVqMenuItem& item, CVqVariant& stored)
 {
-    SVqMenuRecord record;
-    bool added = false;
-    for (int i = 0; i < stored.GetCount(); ++i) {
-        const CVqVariant& child = *stored.IndexPtr(i);
-        if (!read_field(common_fields, record, child))
-            added |= read_key(child, table, record.id);
-    }
-    VqFillLoadedAccel(item, record);
-    return added;
+    const Record record = read_record(table, stored);
+    VqFillLoadedItem(tools, table, item, record.fields, record.added_key);
+    return record.sub_menu;
 }
 
 void load_record(Manipulators& tools, CVqAccelerators* table, CVqMenuItem* parent, CVqVariant& stored)
@@ -117,21 +65,22 @@ void load_record(Manipulators& tools, CVqAccelerators* table, CVqMenuItem* paren
     CVqVariant* sub_menu = fill_item(tools, table, *item, stored);
     if (parent)
         tools.append_item(parent, item);
-    if (sub_menu)
+    if (sub_menu && VqMayHoldSubItems(*item))
         tools.load_from_variant(table, item, *sub_menu);
     if (!parent)
         tools.free_all(item); // what came with it, keys and images, stays
 }
 
 void load_accel_record(Manipulators& tools, CVqAccelerators* table, CVqLoadedAccels& accels,
-                       const CVqVariant& stored)
+                       CVqVariant& stored)
 {
     CVqMenuItem* item = VqNewLoadedItem(tools);
     if (!item)
         return;
-    const bool added = fill_accel(table, *item, stored);
+    const Record record = read_record(table, stored);
+    VqFillLoadedAccel(*item, record.fields);
     if (table)
-        accels.Take(item, added);
+        accels.Take(item, record.added_key);
     else
         tools.freeMenuItem(item);
 }
@@ -149,7 +98,7 @@ CVqVariant& append_record(CVqVariant& out)
 {
     CVqVariant record;
     record.EnableTypeChange(true);
-    return out.Append(record);
+    return out.Append(std::move(record));
 }
 
 }

@@ -3,7 +3,8 @@
 #include "AbstractGui/VqAccelPrint.h"
 #include "system/CVqVariant.h"
 
-#include <vector>
+#include <string>
+#include <utility>
 
 using Manipulators = CVqAbstractMenu::SVqManipulators;
 
@@ -65,13 +66,22 @@ void VqFillLoadedAccel(CVqMenuItem& item, const SVqMenuRecord& record)
     item.setCol2(0);
 }
 
+bool VqMayHoldSubItems(const CVqMenuItem& item)
+{
+    constexpr int most_levels = 1'000;
+    int level = 0;
+    for (const CVqMenuItem* above = item.parentItem(); above && level <= most_levels; ++level)
+        above = above->parentItem();
+    return level <= most_levels;
+}
+
 CVqLoadedAccels::CVqLoadedAccels(Manipulators& tools, CVqMenuItem** head)
-    : m_tools(tools), m_ppHead(head), m_pLast(last_of(*head))
+    : m_tools(tools), m_ppHead(head), m_pLast(last_of(*head)), m_bHadItems(*head != nullptr)
 { }
 
 void CVqLoadedAccels::Take(CVqMenuItem* item, bool keysAdded)
 {
-    if (!keysAdded && m_tools.find_item(item->id(), *m_ppHead)) {
+    if (!keysAdded && is_known(item->id())) {
         m_tools.freeMenuItem(item);
         return;
     }
@@ -80,14 +90,21 @@ void CVqLoadedAccels::Take(CVqMenuItem* item, bool keysAdded)
     else
         *m_ppHead = item;
     m_pLast = item;
+    m_ids.insert(item->id());
+}
+
+bool CVqLoadedAccels::is_known(vq_uint32 id) const
+{
+    return m_ids.contains(id) || (m_bHadItems && m_tools.find_item(id, *m_ppHead));
 }
 
 CVqStringW VqStoredText(Manipulators& tools, const CVqMenuItem& item)
 {
     const CVqStringW& text = item.text();
-    std::vector<vq_wchar> stored(static_cast<std::size_t>(text.GetLength()) + 1);
+    std::basic_string<vq_wchar> stored(text.View().size(), vq_wchar(0));
     tools.handle_mnemonics_and_split(stored.data(), text, item.mnemonic(), VQ_TEXT("\a\t"));
-    return CVqStringW(stored.data());
+    stored.resize(VqView(stored.c_str()).size());
+    return CVqStringW(std::move(stored));
 }
 
 CVqVariant& VqAppendMenuList(CVqVariant& out, const vq_wchar* name)
@@ -96,5 +113,5 @@ CVqVariant& VqAppendMenuList(CVqVariant& out, const vq_wchar* name)
     list.EnableTypeChange(true);
     list.SetRunType(CVqVariantRunType(CVqStringA(VQ_TEXT("CVqListVariant"))));
     list.SetName(name);
-    return out.Append(list);
+    return out.Append(std::move(list));
 }

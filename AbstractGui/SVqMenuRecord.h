@@ -1,11 +1,14 @@
 #pragma once
 
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "AbstractGui/EVqMenuField.h"
 #include "AbstractGui/VqImageReference.h"
 #include "AbstractGui/VqPackedAccel.h"
 #include "system/CVqStringW.h"
 #include "system/VqText.h"
 #include "system/VqTypes.h"
+
+#include <QSet>
 
 class CVqVariant;
 
@@ -26,7 +29,54 @@ struct SVqMenuRecord
     SVqImageReference image;
 };
 
-// Loading: what both forms do with a record that was read --------------------------------------------
+// Loading: what both forms do with a record ---------------------------------------------------------
+
+/// Takes a field; `value` gives what is stored as Flag(), Number() or in Text(out). Keys and sub-items are
+/// left to the form.
+template <class Value>
+void VqReadMenuField(SVqMenuRecord& record, EVqMenuField field, const Value& value)
+{
+    switch (field) {
+    case EVqMenuField::Removed:
+        record.removed = value.Flag();
+        break;
+    case EVqMenuField::Deleted:
+        record.deleted = value.Flag();
+        break;
+    case EVqMenuField::Id:
+        record.id = value.Number();
+        break;
+    case EVqMenuField::Type:
+        record.type = value.Number();
+        break;
+    case EVqMenuField::Status:
+        record.status = value.Number();
+        break;
+    case EVqMenuField::Text:
+        value.Text(record.text);
+        break;
+    case EVqMenuField::Command:
+        value.Text(record.command);
+        break;
+    case EVqMenuField::LineWidth:
+        record.lineWidth = value.Number();
+        break;
+    case EVqMenuField::Col1:
+        record.col1 = value.Number();
+        break;
+    case EVqMenuField::Col2:
+        record.col2 = value.Number();
+        break;
+    case EVqMenuField::EnaBmpFileName:
+        value.Text(record.image.file);
+        break;
+    case EVqMenuField::EnaBmpResName:
+        value.Text(record.image.resource);
+        break;
+    default:
+        break;
+    }
+}
 
 /// A new item without neighbours, handle, table and parameter, whatever allocMenuItem() makes; or null.
 CVqMenuItem* VqNewLoadedItem(CVqAbstractMenu::SVqManipulators& tools);
@@ -39,6 +89,10 @@ void VqFillLoadedItem(CVqAbstractMenu::SVqManipulators& tools, CVqAccelerators* 
 /// Completes a lonely accelerator.
 void VqFillLoadedAccel(CVqMenuItem& item, const SVqMenuRecord& record);
 
+/// False for an item with 1,000 levels of popups above it: what is stored below is not loaded, so that a
+/// hostile file does not end in a menu that no stack carries.
+bool VqMayHoldSubItems(const CVqMenuItem& item);
+
 /// The end of a chain of lonely accelerators that grows while it is loaded.
 class CVqLoadedAccels
 {
@@ -49,9 +103,13 @@ public:
     void Take(CVqMenuItem* item, bool keysAdded);
 
 private:
+    bool is_known(vq_uint32 id) const;
+
     CVqAbstractMenu::SVqManipulators& m_tools;
     CVqMenuItem** m_ppHead; // never null
     CVqMenuItem* m_pLast;
+    const bool m_bHadItems;
+    QSet<vq_uint32> m_ids; // of the items linked here: a walk for each of very many would never end
 };
 
 // Saving: `Out` takes fields with Set(value, name), as CVqLiteVariantW does --------------------------

@@ -1,8 +1,10 @@
 #pragma once
 
-#include "system/CVqStringW.h"
 #include "system/VqText.h"
 #include "system/VqTypes.h"
+
+#include <array>
+#include <string_view>
 
 class CVqAccelerators;
 
@@ -25,7 +27,20 @@ SVqUnpackedAccel VqUnpackAccel(vq_int32 packed);
 /// there twice, and the older record answers.
 bool VqAddPackedAccel(CVqAccelerators& table, vq_uint32 id, vq_int32 packed);
 
-CVqStringW VqPackedAccelName(int number);
+/// The name of a key; `number` counts from 0.
+class VqPackedAccelName
+{
+public:
+    explicit VqPackedAccelName(int number);
+
+    operator const vq_wchar*() const { return m_units.data(); }
+
+private:
+    std::array<vq_wchar, 24> m_units; // the prefix, up to 11 digits with their sign, the terminator
+};
+
+/// The number of a name that VqPackedAccelName makes; of every other one, such as "AccelKey01", -1.
+int VqPackedAccelNumber(std::basic_string_view<vq_wchar> name);
 
 /// True for every name that begins as those of keys do, whatever follows.
-bool VqIsPackedAccelName(const CVqStringW& name);
+bool VqIsPackedAccelName(std::basic_string_view<vq_wchar> name);

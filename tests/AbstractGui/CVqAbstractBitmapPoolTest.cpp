@@ -407,6 +407,11 @@ TEST_F(CVqAbstractBitmapPoolTest, LoadSVGOfANullNameGivesMinus13)
     EXPECT_EQ(Pool::LoadSVG(target, nullptr), -13);
 }
 
+TEST(CVqAbstractBitmapPoolSlots, PoolHasNoFieldsButItsTable)
+{
+    EXPECT_EQ(sizeof(CVqAbstractBitmapPool), sizeof(void*));
+}
+
 TEST(CVqAbstractBitmapPoolSlots, OperationsStandInTheirOrder)
 {
     using File = int (BarePool::*)(const vq_wchar*);

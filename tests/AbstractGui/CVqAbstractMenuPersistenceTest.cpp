@@ -10,9 +10,6 @@ using testing::IsEmpty;
 
 namespace {
 
-constexpr int ctrl_a = 18 + 65 * 65536;
-constexpr int ctrl_b = 18 + 66 * 65536;
-
 constexpr const char* filled_lists
     = "Root((Id=1 Type=7 Status=1 Text=&File Command= SubMenu("
       "(Id=2 Type=2 Status=1 Text=&Open Command=open AccelKey0=4259858) (Id=3 Type=6 Status=1)))) "

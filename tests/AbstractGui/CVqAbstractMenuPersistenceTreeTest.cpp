@@ -5,13 +5,6 @@
 
 #include <string>
 
-namespace {
-
-constexpr int ctrl_a = 18 + 65 * 65536;
-constexpr int ctrl_b = 18 + 66 * 65536;
-
-}
-
 TEST(CVqAbstractMenuSaveTree, RootIsWrittenEmptyWheneverItExists)
 {
     TestMenu menu;
@@ -139,7 +132,7 @@ TEST(CVqAbstractMenuLoadTree, RootWithoutLonelyAcceleratorsFreesTheOldOnes)
     EXPECT_EQ(menu.MainTable().GetAccelsCount(), 0u);
 }
 
-TEST(CVqAbstractMenuLoadTree, LonelyAcceleratorsBesideAnEmptyRootReadAsOneItem)
+TEST(CVqAbstractMenuLoadTree, LonelyAcceleratorsBesideAnEmptyRootComeBack)
 {
     TestMenu menu;
     menu.AppendLonelyAccel(4, 18, 0x42, VQ_TEXT("lonely"));
@@ -149,6 +142,37 @@ TEST(CVqAbstractMenuLoadTree, LonelyAcceleratorsBesideAnEmptyRootReadAsOneItem)
 
     EXPECT_EQ(other.Load(stored), 0);
 
-    EXPECT_EQ(other.Tree(), "0");
-    EXPECT_EQ(other.LonelyAccels(), nullptr);
+    EXPECT_EQ(other.Tree(), "");
+    EXPECT_EQ(TestMenu::Chain(other.LonelyAccels()), "4");
+    EXPECT_EQ(TestMenu::Keys(other.MainTable()), "4:18+66");
+}
+
+TEST(CVqAbstractMenuLoadTree, EmptyRootReplacesLonelyAcceleratorsAndMainTable)
+{
+    TestMenu empty;
+    CVqVariant stored;
+    empty.Save(stored);
+    TestMenu menu;
+    fill_menu(menu);
+
+    EXPECT_EQ(menu.Load(stored), 0);
+
+    EXPECT_EQ(menu.Tree(), "");
+    EXPECT_EQ(menu.LonelyAccels(), nullptr);
+    EXPECT_EQ(menu.MainTable().GetAccelsCount(), 0u);
+}
+
+TEST(CVqAbstractMenuLoadTree, RootWithoutAnyValueCountsAsAbsent)
+{
+    TestMenu menu;
+    fill_menu(menu);
+    CVqVariant stored = TreeForm::Make({item_with_key(7, ctrl_a)});
+    CVqVariant root;
+    root.SetName(VQ_TEXT("Root"));
+    stored.Append(root);
+
+    menu.Load(stored);
+
+    EXPECT_EQ(menu.Tree(), "7");
+    EXPECT_EQ(TestMenu::Chain(menu.LonelyAccels()), "4");
 }

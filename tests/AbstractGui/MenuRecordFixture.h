@@ -98,9 +98,6 @@ protected:
     CVqMenuItem* m_head = nullptr; // of lonely accelerators
 };
 
-inline constexpr int ctrl_a = 18 + 65 * 65536;
-inline constexpr int ctrl_b = 18 + 66 * 65536;
-
 inline std::string text_of(const CVqMenuItem& item)
 {
     return TestMenu::Plain(item.text());

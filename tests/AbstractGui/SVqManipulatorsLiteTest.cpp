@@ -6,16 +6,14 @@
 
 #include <string>
 
-// What the lightweight form does in its own way; what both forms share is tested with SVqMenuRecord.
+// What the lightweight form does in its own way; what both forms share is tested with SVqManipulatorsStoring
+// and SVqMenuRecord.
 
 using testing::ElementsAre;
 
 using Manipulators = CVqAbstractMenu::SVqManipulators;
 
 namespace {
-
-constexpr int ctrl_a = 18 + 65 * 65536;
-constexpr int ctrl_b = 18 + 66 * 65536;
 
 class SVqManipulatorsLite : public testing::Test
 {
@@ -33,28 +31,6 @@ protected:
     Manipulators& m_tools = Manipulators::Instance();
     CVqMenuItem m_parent;
     CVqAccelerators m_table;
-};
-
-/// Gives a code for one popup, and notes how texts are split.
-class NotingTools final : public Manipulators
-{
-public:
-    using Manipulators::save_to_variant;
-
-    int save_to_variant(CVqAccelerators* accelerators, CVqMenuItem* item, CVqLiteVariantW& out) override
-    {
-        const int result = Manipulators::save_to_variant(accelerators, item, out);
-        return item && item->id() == 6 ? 77 : result;
-    }
-
-    const vq_wchar* handle_mnemonics_and_split(vq_wchar* destination, const vq_wchar* source,
-                                               vq_wchar mnemonic, const vq_wchar* delimiters) override
-    {
-        m_delimiters = TestMenu::Plain(delimiters);
-        return Manipulators::handle_mnemonics_and_split(destination, source, mnemonic, delimiters);
-    }
-
-    std::string m_delimiters;
 };
 
 }
@@ -94,6 +70,19 @@ TEST_F(SVqManipulatorsLite, IdentifierMayStandBehindTheKeys)
 {
     load({{VQ_TEXT("AccelKey0"), ctrl_a}, {VQ_TEXT("Id"), 5u}});
 
+    EXPECT_EQ(TestMenu::Keys(m_table), "5:18+65");
+}
+
+TEST_F(SVqManipulatorsLite, RepeatedFieldCountsWithItsFirstValue)
+{
+    load({{VQ_TEXT("Id"), 5u},
+          {VQ_TEXT("AccelKey0"), ctrl_a},
+          {VQ_TEXT("SubMenu"), Stored::Children{StoredRecord({{VQ_TEXT("Id"), 6u}})}},
+          {VQ_TEXT("SubMenu"), Stored::Children{StoredRecord({{VQ_TEXT("Id"), 7u}})}},
+          {VQ_TEXT("AccelKey0"), ctrl_b},
+          {VQ_TEXT("Id"), 8u}});
+
+    EXPECT_EQ(TestMenu::Chain(m_parent.subItem()), "5(6)");
     EXPECT_EQ(TestMenu::Keys(m_table), "5:18+65");
 }
 
@@ -167,31 +156,4 @@ TEST_F(SVqManipulatorsLite, ImageBelowTheModuleIsStoredWithItsWay)
         = LiteForm::Filled([&](CVqLiteVariantW& out) { m_tools.save_to_variant(nullptr, &item, out); });
 
     EXPECT_EQ(LiteForm::Show(stored), "(Id=0 Type=6 Status=1 EnaBmpFileName=/arbor-none/img/a.pngimga.png)");
-}
-
-TEST_F(SVqManipulatorsLite, ResultIsThatOfTheLastItemsSubItems)
-{
-    NotingTools tools;
-    CVqMenuItem first;
-    CVqMenuItem last;
-    CVqMenuItem child;
-    child.setId(6);
-    first.setSubItem(&child);
-    first.setNextItem(&last);
-    CVqLiteVariantW out;
-
-    EXPECT_EQ(tools.Manipulators::save_to_variant(nullptr, &first, out), 0);
-    last.setSubItem(&child);
-    EXPECT_EQ(tools.Manipulators::save_to_variant(nullptr, &first, out), 77);
-}
-
-TEST_F(SVqManipulatorsLite, TextIsSplitAtBellThenTab)
-{
-    NotingTools tools;
-    CVqMenuItem item;
-    CVqLiteVariantW out;
-
-    tools.save_to_variant(nullptr, &item, out);
-
-    EXPECT_EQ(tools.m_delimiters, "|>");
 }

@@ -6,16 +6,14 @@
 
 #include <string>
 
-// What the tree form does in its own way; what both forms share is tested with SVqMenuRecord.
+// What the tree form does in its own way; what both forms share is tested with SVqManipulatorsStoring and
+// SVqMenuRecord.
 
 using testing::ElementsAre;
 
 using Manipulators = CVqAbstractMenu::SVqManipulators;
 
 namespace {
-
-constexpr int ctrl_a = 18 + 65 * 65536;
-constexpr int ctrl_b = 18 + 66 * 65536;
 
 class SVqManipulatorsVariant : public testing::Test
 {
@@ -32,28 +30,6 @@ protected:
     Manipulators& m_tools = Manipulators::Instance();
     CVqMenuItem m_parent;
     CVqAccelerators m_table;
-};
-
-/// Gives a code for one popup, and notes how texts are split.
-class NotingTools final : public Manipulators
-{
-public:
-    using Manipulators::save_to_variant;
-
-    int save_to_variant(CVqAccelerators* accelerators, CVqMenuItem* item, CVqVariant& out) override
-    {
-        const int result = Manipulators::save_to_variant(accelerators, item, out);
-        return item && item->id() == 6 ? 77 : result;
-    }
-
-    const vq_wchar* handle_mnemonics_and_split(vq_wchar* destination, const vq_wchar* source,
-                                               vq_wchar mnemonic, const vq_wchar* delimiters) override
-    {
-        m_delimiters = TestMenu::Plain(delimiters);
-        return Manipulators::handle_mnemonics_and_split(destination, source, mnemonic, delimiters);
-    }
-
-    std::string m_delimiters;
 };
 
 }
@@ -210,31 +186,4 @@ TEST_F(SVqManipulatorsVariant, StoredImageIsFoundThroughTheModulesFolder)
     EXPECT_THAT(pool.TakeCalls(),
                 ElementsAre("ReplaceDebug /arbor-nonea.png", "AddImage /arbor-nonea.png, res, null = 100"));
     EXPECT_EQ(m_parent.subItem()->enaBmpIndex(), 100);
-}
-
-TEST_F(SVqManipulatorsVariant, ResultIsThatOfTheLastItemsSubItems)
-{
-    NotingTools tools;
-    CVqMenuItem first;
-    CVqMenuItem last;
-    CVqMenuItem child;
-    child.setId(6);
-    first.setSubItem(&child);
-    first.setNextItem(&last);
-    CVqVariant out;
-
-    EXPECT_EQ(tools.Manipulators::save_to_variant(nullptr, &first, out), 0);
-    last.setSubItem(&child);
-    EXPECT_EQ(tools.Manipulators::save_to_variant(nullptr, &first, out), 77);
-}
-
-TEST_F(SVqManipulatorsVariant, TextIsSplitAtBellThenTab)
-{
-    NotingTools tools;
-    CVqMenuItem item;
-    CVqVariant out;
-
-    tools.save_to_variant(nullptr, &item, out);
-
-    EXPECT_EQ(tools.m_delimiters, "|>");
 }

@@ -180,6 +180,10 @@ struct FormName
     }
 };
 
+/// Keys as they are stored.
+inline constexpr int ctrl_a = 18 + 65 * 65536;
+inline constexpr int ctrl_b = 18 + 66 * 65536;
+
 /// A popup with a command and its key, a separator, and a lonely accelerator.
 inline void fill_menu(TestMenu& menu)
 {

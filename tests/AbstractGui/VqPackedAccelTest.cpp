@@ -120,8 +120,22 @@ TEST(VqPackedAccel, OlderRecordAnswersForACombinationThatIsThereTwice)
 
 TEST(VqPackedAccel, NamesCountFromZero)
 {
-    EXPECT_EQ(VqPackedAccelName(0), VQ_TEXT("AccelKey0"));
-    EXPECT_EQ(VqPackedAccelName(12), VQ_TEXT("AccelKey12"));
+    EXPECT_EQ(VqView(VqPackedAccelName(0)), VQ_TEXT("AccelKey0"));
+    EXPECT_EQ(VqView(VqPackedAccelName(12)), VQ_TEXT("AccelKey12"));
+    EXPECT_EQ(VqView(VqPackedAccelName(2'147'483'647)), VQ_TEXT("AccelKey2147483647"));
+}
+
+TEST(VqPackedAccel, NumberIsThatOfTheExactNameOnly)
+{
+    EXPECT_EQ(VqPackedAccelNumber(VQ_TEXT("AccelKey0")), 0);
+    EXPECT_EQ(VqPackedAccelNumber(VQ_TEXT("AccelKey12")), 12);
+    EXPECT_EQ(VqPackedAccelNumber(VQ_TEXT("AccelKey2147483647")), 2'147'483'647);
+    for (const vq_wchar* name :
+         {VQ_TEXT("AccelKey2147483648"), VQ_TEXT("AccelKey99999999999"), VQ_TEXT("AccelKey"),
+          VQ_TEXT("AccelKey01"), VQ_TEXT("AccelKey00"), VQ_TEXT("AccelKey+1"), VQ_TEXT("AccelKey-1"),
+          VQ_TEXT("AccelKey-0"), VQ_TEXT("AccelKey1 "), VQ_TEXT("AccelKey1x"), VQ_TEXT("AccelKeyOther"),
+          VQ_TEXT("accelkey0"), VQ_TEXT("0"), VQ_TEXT("")})
+        EXPECT_EQ(VqPackedAccelNumber(name), -1) << CVqStringW(name).ToQString().toStdString();
 }
 
 TEST(VqPackedAccel, NamesOfKeysBeginWithTheirPrefix)
