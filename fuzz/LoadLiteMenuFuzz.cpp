@@ -1,0 +1,8 @@
+#include "fuzz/StoredMenuFuzz.h"
+
+// Any stream, loaded into a menu that lives.
+
+extern "C" int LLVMFuzzerTestOneInput(const unsigned char* data, std::size_t size)
+{
+    return load_fuzzed_menu<LiteRecords>(data, size);
+}
