@@ -2,6 +2,9 @@
 
 #include "tests/support/TestMenu.h"
 
+#include <QFile>
+#include <QTemporaryDir>
+
 #include <gtest/gtest.h>
 
 namespace {
@@ -12,6 +15,8 @@ protected:
     MenuGuide() { m_menu.AppendPopup(10, 0, VQ_TEXT("&Edit")); }
 
     TestMenu m_menu;
+    const QTemporaryDir m_folder;
+    const QString m_file = m_folder.filePath(QStringLiteral("menu.cbor"));
 };
 
 }
@@ -58,4 +63,34 @@ TEST_F(MenuGuide, HidingACommandHidesItsItemAndTheSeparatorThatIsLeftOver)
     hide_commands(m_menu);
 
     EXPECT_EQ(m_menu.Tree(), "10(11 12- 13*)");
+}
+
+TEST_F(MenuGuide, AStoredMenuComesBack)
+{
+    give_keys(m_menu);
+    TestMenu other;
+
+    EXPECT_TRUE(save_menu(m_menu, m_file));
+    EXPECT_TRUE(load_menu(other, m_file));
+
+    EXPECT_EQ(other.Tree(), m_menu.Tree());
+    EXPECT_EQ(other.Text(20), "&Redo|Ctrl+Shift+Z, Ctrl+Y");
+}
+
+TEST_F(MenuGuide, AFileThatHoldsNoMenuLeavesTheMenu)
+{
+    QFile file(m_file);
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    file.write("no menu");
+    file.close();
+
+    EXPECT_FALSE(load_menu(m_menu, m_file));
+    EXPECT_FALSE(load_menu(m_menu, m_folder.filePath(QStringLiteral("missing"))));
+
+    EXPECT_EQ(m_menu.Tree(), "10");
+}
+
+TEST_F(MenuGuide, AMenuIsNotSavedWhereNothingCanBeWritten)
+{
+    EXPECT_FALSE(save_menu(m_menu, m_folder.filePath(QStringLiteral("missing/menu.cbor"))));
 }
