@@ -3,7 +3,7 @@
 //
 //     MenuBar {
 //         menu: theMenu              // a QuickMenu
-//         imageSource: "image://pool/" // optional
+//         imageSource: "image://arbor/" // optional
 //         width: parent.width
 //     }
 //

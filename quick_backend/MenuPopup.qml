@@ -29,7 +29,7 @@ T.Popup {
     property MenuPopup child: null
     property size columns: Qt.size(0, 0)
     readonly property real scrollBarWidth: implicitHeight > height ? scrollBar.implicitWidth : 0
-    readonly property real besideText: 2 * 6 + 16 + (session.imageSource !== "" ? 22 : 0) + 8 + 4 + 16
+    readonly property real besideText: 2 * 6 + 16 + 8 + 4 + 16
 
     objectName: "menuPopup"
     focus: true

@@ -29,6 +29,8 @@ T.Control {
     readonly property bool hasSample: kind === QuickMenuRows.OneColor || kind === QuickMenuRows.TwoColor
                                       || kind === QuickMenuRows.LineWidth
     readonly property color ink: isCurrent ? palette.highlightedText : palette.text
+    readonly property real fade: grayed ? 0.42 : 1
+    readonly property bool hasImage: session.imageSource !== "" && imageIndex >= 0
 
     /// The pointer moved over the row, or clicked it.
     signal pointedAt
@@ -75,39 +77,53 @@ T.Control {
 
     contentItem: Item {
         visible: !row.isSeparator
-        opacity: row.grayed ? 0.42 : 1
 
         MenuMark {
             id: mark
 
+            objectName: "menuMark"
             anchors.left: parent.left
             anchors.verticalCenter: parent.verticalCenter
-            shape: !row.checked ? MenuMark.None : row.radio ? MenuMark.Radio : MenuMark.Check
+            shape: !row.checked || row.hasImage ? MenuMark.None : row.radio ? MenuMark.Radio : MenuMark.Check
             color: row.ink
+            opacity: row.fade
         }
 
+        // Mark and image share their column: a checked image lies on a plate.
+        Rectangle {
+            objectName: "imagePlate"
+            anchors.centerIn: mark
+            visible: row.hasImage && row.checked
+            width: 22
+            height: 22
+            radius: 4
+            color: Qt.alpha(row.ink, 0.12)
+            border.color: Qt.alpha(row.ink, 0.4)
+            opacity: row.fade
+        }
+
+        // The provider grays what is disabled; an image of one colour takes that of the text.
         Image {
-            id: image
-
-            readonly property bool wanted: row.session.imageSource !== ""
-
-            anchors.left: mark.right
-            anchors.leftMargin: wanted ? 6 : 0
-            anchors.verticalCenter: parent.verticalCenter
-            width: wanted ? 16 : 0
+            objectName: "menuImage"
+            anchors.centerIn: mark
+            width: 16
             height: 16
             sourceSize: Qt.size(16, 16)
-            source: wanted && row.imageIndex >= 0 ? row.session.imageSource + row.imageIndex : ""
+            fillMode: Image.PreserveAspectFit
+            source: !row.hasImage ? "" : row.session.imageSource + row.imageIndex + "?state="
+                + (row.grayed ? "disabled" : row.isCurrent ? "selected" : "normal") + "&color="
+                + encodeURIComponent(Qt.alpha(row.ink, row.fade))
         }
 
         MenuSample {
             id: sample
             objectName: "menuSample"
 
-            anchors.left: image.right
+            anchors.left: mark.right
             anchors.leftMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             visible: row.hasSample
+            opacity: row.fade
             width: !visible ? 0 : label.text === "" ? parent.width - x - 22 : 48
             kind: row.kind
             color1: row.color1
@@ -119,13 +135,15 @@ T.Control {
         Text {
             id: label
 
-            anchors.left: sample.visible ? sample.right : image.right
+            objectName: "menuLabel"
+            anchors.left: sample.visible ? sample.right : mark.right
             anchors.leftMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             text: row.styledLabel
             textFormat: Text.StyledText
             font: row.font
             color: row.ink
+            opacity: row.fade
         }
 
         Text {
@@ -136,7 +154,7 @@ T.Control {
             textFormat: Text.PlainText
             font: row.font
             color: row.ink
-            opacity: row.isCurrent ? 0.85 : 0.6
+            opacity: row.fade * (row.isCurrent ? 0.85 : 0.6)
         }
 
         MenuMark {
@@ -147,6 +165,7 @@ T.Control {
             shape: row.submenu ? MenuMark.Arrow : MenuMark.None
             mirrored: row.mirrored
             color: row.ink
+            opacity: row.fade
         }
     }
 

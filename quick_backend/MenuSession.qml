@@ -6,7 +6,8 @@ QtObject {
 
     property QuickMenu menu: null
 
-    /// Where images come from, such as "image://pool/"; the index of an image is put behind it. Empty: no images.
+    /// Where images come from, such as "image://arbor/". Behind it come the index of an image, the state of its row
+    /// and the colour of its text: "7?state=disabled&color=%236b22252b". Empty: no images.
     property string imageSource: ""
 
     /// Milliseconds that the pointer rests on a row before the popup below it opens or the last one closes.
