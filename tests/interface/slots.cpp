@@ -5,6 +5,7 @@
 #include "AbstractGui/CVqAbstractControl.h"
 #include "AbstractGui/CVqAbstractMenu.h"
 #include "AbstractGui/CVqAbstractToolbar.h"
+#include "AbstractGui/CVqCursorPool.h"
 #include "AbstractGui/CVqMenuItem.h"
 #include "AbstractGui/IVqMenuBase.h"
 #include "AbstractGui/IVqUIcontrol.h"
@@ -27,6 +28,7 @@ template struct Slots<CVqAbstractMenu>;
 template struct Slots<CVqAbstractMenu::IVqVisitorData>;
 template struct Slots<CVqAbstractMenu::SVqManipulators>;
 template struct Slots<CVqAbstractToolbar>;
+template struct Slots<CVqCursorPool>;
 template struct Slots<CVqMenuItem>;
 template struct Slots<CVqQtAbstractListModel>;
 template struct Slots<CVqSortFilterProxyModel>;
