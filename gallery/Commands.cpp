@@ -77,6 +77,7 @@ void Commands::add_edit_commands()
     m_actions[u"EditUndo"_s] = [this](const QString& how) {
         while (m_document.Undo() && how == u"all"_s) { }
     };
+    m_actions[u"EditShortcuts"_s] = [this](const QString&) { Q_EMIT PageRequested(u"KeysPage"_s); };
     m_actions[u"EditRedo"_s] = [this](const QString&) { m_document.Redo(); };
     m_actions[u"EditCopy"_s] = [this](const QString&) { m_clipboard = m_document.Selected(); };
     m_actions[u"EditCut"_s] = [this](const QString&) {

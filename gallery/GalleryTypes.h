@@ -6,6 +6,7 @@
 #include "gallery/OffscreenPicture.h"
 #include "gallery/PageHolder.h"
 #include "gallery/Session.h"
+#include "gallery/keys/KeyCapture.h"
 #include "gallery/picture/CanvasItem.h"
 #include "gallery/resize/BatchResize.h"
 
@@ -34,6 +35,29 @@ struct CanvasType
     Q_GADGET
     QML_FOREIGN(Gallery::CanvasItem)
     QML_NAMED_ELEMENT(PictureArea)
+};
+
+struct KeyCaptureType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::KeyCapture)
+    QML_NAMED_ELEMENT(KeyCapture)
+};
+
+struct KeyEditorType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::KeyEditor)
+    QML_NAMED_ELEMENT(KeyEditor)
+    QML_UNCREATABLE("A session has one.")
+};
+
+struct KeyListModelType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::KeyListModel)
+    QML_NAMED_ELEMENT(KeyListModel)
+    QML_UNCREATABLE("The key editor of a session has one.")
 };
 
 struct OffscreenPictureType

@@ -6,8 +6,17 @@ FocusScope {
 
     property string title
     property alias text: input.text
+    property alias validator: input.validator
+    readonly property alias acceptable: input.acceptableInput // to the validator; right also while edited() is told
+    property bool faulty: !acceptable // drawn as such
+    property list<int> ownKeys: [] // beside those of editing, that the menu may have too
 
     signal accepted
+    signal edited // by the user
+
+    function selectAll(): void {
+        input.selectAll();
+    }
 
     implicitWidth: 200
     implicitHeight: frame.y + frame.height
@@ -28,7 +37,7 @@ FocusScope {
         height: 36
         radius: Theme.radius
         color: Theme.field
-        border { color: input.activeFocus ? Theme.accent : Theme.edge; width: input.activeFocus ? 2 : 1 }
+        border { color: field.faulty ? Theme.danger : input.activeFocus ? Theme.accent : Theme.edge; width: input.activeFocus ? 2 : 1 }
 
         TextInput {
             id: input
@@ -44,6 +53,8 @@ FocusScope {
             selectedTextColor: Theme.accentInk
             font.pixelSize: Theme.text
             onAccepted: field.accepted()
+            onTextEdited: field.edited()
+            Keys.onShortcutOverride: event => event.accepted = event.accepted || !event.modifiers && field.ownKeys.includes(event.key)
 
             Accessible.role: Accessible.EditableText
             Accessible.name: field.title

@@ -34,6 +34,7 @@ Window {
             Layout.fillWidth: true
             Layout.preferredHeight: height
             menu: Session.menu
+            imageSource: "image://arbor/"
 
             Connections {
                 target: bar.keys
@@ -46,6 +47,14 @@ Window {
         PageSwitcher {
             Layout.fillWidth: true
             onEntered: area.forceActiveFocus(Qt.TabFocusReason)
+        }
+        NoticeStrip {
+            Layout.fillWidth: true
+            text: Session.notice
+            onCleared: {
+                Session.clearNotice();
+                area.forceActiveFocus(Qt.OtherFocusReason);
+            }
         }
         PageArea {
             id: area
@@ -63,5 +72,6 @@ Window {
     ContextMenu {
         anchors.fill: parent
         menu: Session.menu
+        imageSource: "image://arbor/"
     }
 }

@@ -5,6 +5,7 @@
 #include "gallery/resize/ResizeOptions.h"
 
 #include <QCommandLineParser>
+#include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
 
@@ -13,6 +14,7 @@ namespace Gallery {
 namespace {
 
 constexpr int g_bad_arguments = 2;
+constexpr QLatin1StringView g_print_keys("print-keys"); // the one option without a value
 
 void describe(QCommandLineParser& parser)
 {
@@ -32,6 +34,9 @@ void describe(QCommandLineParser& parser)
         {u"qml"_s,
          u"Reads the gallery's QML files from a folder, and again when they change, with ORV_DEVELOP_RESOURCES set."_s,
          u"folder"_s},
+        {u"data"_s, u"Keeps the menus, with keys that were changed, in a folder."_s, u"folder"_s},
+        {u"print-menus"_s, u"Prints a file with stored menus as readable JSON."_s, u"file"_s},
+        {QString(g_print_keys), u"Prints the commands with their keys."_s},
         {u"page"_s, u"Opens the window with a page: %1."_s.arg(PageNames().join(u", "_s)), u"name"_s},
         {{u"h"_s, u"help"_s}, u"Shows this help."_s},
     });
@@ -48,19 +53,25 @@ OptionsResult refuse(const QString& sentence)
 QString option_without_value(const QCommandLineParser& parser)
 {
     for (const QString& name : parser.optionNames())
-        if (parser.value(name).isEmpty())
+        if (name != g_print_keys && parser.value(name).isEmpty())
             return name;
     return {};
 }
 
 OptionsResult take(const QCommandLineParser& parser)
 {
+    for (const QString& other : {u"menus"_s, u"render"_s, u"resize"_s})
+        if (parser.isSet(u"data"_s) && parser.isSet(other))
+            return refuse(u"--data does not go with --%1."_s.arg(other));
     OptionsResult result;
     result.options.screenshots = parser.value(u"screenshots"_s);
     result.options.demo = parser.value(u"demo"_s);
     result.options.locale = parser.value(u"locale"_s);
     result.options.menus = parser.value(u"menus"_s);
     result.options.qml = parser.value(u"qml"_s);
+    result.options.data = parser.value(u"data"_s);
+    result.options.print_menus = parser.value(u"print-menus"_s);
+    result.options.print_keys = parser.isSet(g_print_keys);
     result.options.page = parser.value(u"page"_s);
     if (!QStringList{u"de"_s, u"en"_s, u"ja"_s}.contains(result.options.locale))
         return refuse(
@@ -107,6 +118,14 @@ OptionsResult take_resize(const QCommandLineParser& parser, OptionsResult result
     return result;
 }
 
+}
+
+MenuHome Options::Home() const
+{
+    MenuHome home{data, locale};
+    if (data.isEmpty() && menus.isEmpty() && !IsScript())
+        home.folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+    return home;
 }
 
 OptionsResult ParseOptions(const QStringList& arguments)

@@ -3,6 +3,7 @@
 #include "gallery/render/RenderJob.h"
 #include "gallery/resize/ResizeJob.h"
 #include "gallery/script/KeyPress.h"
+#include "gallery/storage/MenuHome.h"
 
 #include <QStringList>
 
@@ -17,12 +18,19 @@ struct Options
     QString locale;       ///< "de" or "en" for labels and key names, "ja" for key names alone.
     QString menus;        ///< A menu file in place of the built-in one; empty for none.
     QString qml;          ///< A copy of gallery/ for the developer's mode; empty for the source tree.
-    QString page;         ///< The page that the window opens with; empty for the first.
-    RenderJob render;     ///< A picture that is wanted instead of a window; without a file for none.
-    ResizeJob resize;     ///< Images that are to be scaled instead of a window; without folders for none.
+    QString data;         ///< The folder in which menus are kept; empty for the user's own.
+    QString print_menus;  ///< A file with stored menus that is printed instead of a window; empty for none.
+    bool print_keys = false; ///< The keys of the menu are printed instead of a window.
+    QString page;            ///< The page that the window opens with; empty for the first.
+    RenderJob render;        ///< A picture that is wanted instead of a window; without a file for none.
+    ResizeJob resize;        ///< Images that are to be scaled instead of a window; without folders for none.
 
     /// The window is only there to be scripted: the program ends by itself.
     bool IsScript() const { return !keys.isEmpty() || !screenshots.isEmpty() || !demo.isEmpty(); }
+
+    /// Where this run keeps its menus: in `data`, or else in the user's data folder. Without `data` nothing
+    /// is kept by a script, which should do the same each time, and by a run with a menu of its own.
+    MenuHome Home() const;
 };
 
 /// What became of a command line.

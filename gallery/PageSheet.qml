@@ -9,6 +9,9 @@ FocusScope {
     property string lead
     default property alias content: body.data
 
+    /// The height that the page's own parts have without being scrolled.
+    readonly property real room: height - 2 * column.y - body.y
+
     implicitWidth: 1180
     implicitHeight: 664
 

@@ -8,12 +8,11 @@ namespace Gallery {
 
 namespace {
 
-// Each page is one line here, with its English title, and one file: pages/<title>Page.qml.
+// A page is its English title here and one file: pages/<title>Page.qml.
 constexpr const char* g_titles[] = {
-    QT_TRANSLATE_NOOP("Pages", "Picture"),
-    QT_TRANSLATE_NOOP("Pages", "Offscreen"),
-    QT_TRANSLATE_NOOP("Pages", "Resources"),
-    QT_TRANSLATE_NOOP("Pages", "Resize"),
+    QT_TRANSLATE_NOOP("Pages", "Picture"),   QT_TRANSLATE_NOOP("Pages", "Offscreen"),
+    QT_TRANSLATE_NOOP("Pages", "Resources"), QT_TRANSLATE_NOOP("Pages", "Resize"),
+    QT_TRANSLATE_NOOP("Pages", "Keys"),
 };
 
 QString name_of(const char* title)

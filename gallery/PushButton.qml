@@ -1,18 +1,21 @@
 import QtQuick
 
-// A button with a text. Tab reaches it, Space and Enter push it.
+// A button with a text. Tab reaches it, Space and Enter push it. A quiet one stands beside what matters more.
 Rectangle {
     id: button
 
     property string text
+    property bool quiet: false
+    property list<int> ownKeys: [] // that the menu may have too
+    readonly property color ground: quiet ? Theme.field : Theme.accent
 
     signal pushed
 
     implicitWidth: Math.max(96, label.implicitWidth + 32)
     implicitHeight: 34
     radius: Theme.radius
-    color: tap.pressed ? Qt.darker(Theme.accent, 1.15) : hover.hovered ? Qt.lighter(Theme.accent, 1.1) : Theme.accent
-    border { color: Theme.ink; width: activeFocus ? 2 : 0 }
+    color: tap.pressed ? Qt.darker(ground, 1.15) : !hover.hovered ? ground : quiet ? Theme.hover : Qt.lighter(ground, 1.1)
+    border { color: !quiet ? Theme.ink : activeFocus ? Theme.accent : Theme.edge; width: activeFocus ? 2 : quiet ? 1 : 0 }
     opacity: enabled ? 1 : 0.5
     activeFocusOnTab: enabled
 
@@ -21,7 +24,7 @@ Rectangle {
     Accessible.focusable: true
     Accessible.onPressAction: if (enabled) pushed()
 
-    Keys.onShortcutOverride: event => event.accepted = !event.modifiers && (event.key === Qt.Key_Space || event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
+    Keys.onShortcutOverride: event => event.accepted = !event.modifiers && [Qt.Key_Space, Qt.Key_Return, Qt.Key_Enter, ...ownKeys].includes(event.key)
     Keys.onSpacePressed: pushed()
     Keys.onReturnPressed: pushed()
     Keys.onEnterPressed: pushed()
@@ -32,8 +35,8 @@ Rectangle {
         anchors.centerIn: parent
         text: button.text
         textFormat: Text.PlainText
-        color: Theme.accentInk
-        font { pixelSize: Theme.text; weight: Font.DemiBold }
+        color: button.quiet ? Theme.ink : Theme.accentInk
+        font { pixelSize: Theme.text; weight: button.quiet ? Font.Normal : Font.DemiBold }
     }
     HoverHandler {
         id: hover

@@ -15,13 +15,6 @@ constexpr vq_uint32 g_most_swatches = 64;
 
 Session* g_of_program = nullptr;
 
-QHash<vq_uint32, MenuRole> build(CVqAbstractMenu& menu, const MenuDocument& document)
-{
-    MenuBuilder builder(menu);
-    builder.Build(document);
-    return builder.Roles();
-}
-
 QString color_text(vq_uint32 color)
 {
     return QColor(color & 0xFF, color >> 8 & 0xFF, color >> 16 & 0xFF).name();
@@ -35,10 +28,13 @@ QString time_text(qint64 nanoseconds)
 
 }
 
-Session::Session(const MenuDocument& document, QObject* parent)
+Session::Session(const MenuDocument& document, const MenuHome& home, QObject* parent)
     : QObject(parent),
       m_commands(m_document, m_view),
-      m_marks(m_menu, build(m_menu, document)),
+      m_factory_menu(document),
+      m_keeper(m_menu, m_factory_menu, home),
+      m_marks(m_menu, m_keeper.Fill()),
+      m_key_editor(m_menu, m_factory_menu),
       m_context_menu(document.context.empty() ? 0 : document.context.front().id),
       m_page(PageNames().constFirst())
 {
@@ -47,6 +43,8 @@ Session::Session(const MenuDocument& document, QObject* parent)
     connect(&m_commands, &Commands::QuitRequested, this, &Session::QuitRequested);
     connect(&m_commands, &Commands::PageRequested, this, &Session::SetPage);
     connect(&m_document, &Document::Changed, this, [this] { refresh_entries({}); });
+    connect(&m_key_editor, &KeyEditor::KeysChanged, &m_keeper, &MenuKeeper::Store);
+    connect(&m_keeper, &MenuKeeper::NoticeChanged, this, &Session::NoticeChanged);
 }
 
 Session::~Session()

@@ -2,17 +2,19 @@
 
 #include "gallery/Commands.h"
 #include "gallery/ViewState.h"
+#include "gallery/keys/KeyEditor.h"
 #include "gallery/menu/MenuMarks.h"
 #include "gallery/picture/Document.h"
 #include "gallery/resize/BatchResize.h"
+#include "gallery/storage/MenuKeeper.h"
 #include "quick_backend/CVqQuickMenu.h"
 
 #include <QUrl>
 
 namespace Gallery {
 
-/// One run of the gallery: the picture, the view, the menu that acts on them, the page that shows, the batch
-/// resize, and what the status line tells.
+/// One run of the gallery: the picture, the view, the menu that acts on them and its keys, the page that
+/// shows, the batch resize, and what status line and notice tell.
 class Session : public QObject
 {
     Q_OBJECT
@@ -20,16 +22,18 @@ class Session : public QObject
     Q_PROPERTY(Gallery::ViewState* view READ View CONSTANT)
     Q_PROPERTY(CVqQuickMenu* menu READ Menu CONSTANT)
     Q_PROPERTY(Gallery::BatchResize* batchResize READ GetBatchResize CONSTANT)
+    Q_PROPERTY(Gallery::KeyEditor* keyEditor READ GetKeyEditor CONSTANT)
     Q_PROPERTY(QStringList pages READ Pages CONSTANT)
     Q_PROPERTY(QString page READ Page WRITE SetPage NOTIFY PageChanged)
     Q_PROPERTY(QUrl pageUrl READ PageUrl NOTIFY PageChanged)
     Q_PROPERTY(QString lastCommand READ LastCommand NOTIFY Told)
     Q_PROPERTY(QString lastKey READ LastKey NOTIFY Told)
     Q_PROPERTY(QString lastTime READ LastTime NOTIFY Told)
+    Q_PROPERTY(QString notice READ Notice NOTIFY NoticeChanged)
 
 public:
-    /// Builds the menu of `document`.
-    explicit Session(const MenuDocument& document, QObject* parent = nullptr);
+    /// Has the menus that are kept in `home`, or else those of `document`, the factory menu.
+    explicit Session(const MenuDocument& document, const MenuHome& home = {}, QObject* parent = nullptr);
     ~Session() override;
 
     /// The session of the program, which QML knows as the singleton Session: the one made last, while it
@@ -40,6 +44,7 @@ public:
     ViewState* View() { return &m_view; }
     CVqQuickMenu* Menu() { return &m_menu; }
     BatchResize* GetBatchResize() { return &m_batch_resize; }
+    KeyEditor* GetKeyEditor() { return &m_key_editor; }
 
     /// The names of all pages, in their order.
     static QStringList Pages();
@@ -64,6 +69,11 @@ public:
     /// Time that finding the command of LastKey() took, with its unit; empty without a key.
     const QString& LastTime() const { return m_last_time; }
 
+    /// One sentence on the folder of the menus that the user should read; empty for none.
+    const QString& Notice() const { return m_keeper.Notice(); }
+    /// To be called once it was read.
+    Q_INVOKABLE void clearNotice() { m_keeper.ClearNotice(); }
+
     /// Chooses the first entry with `command`, as a click on it does.
     Q_INVOKABLE void choose(const QString& command);
 
@@ -83,6 +93,7 @@ Q_SIGNALS:
     void Told();
     void QuitRequested();
     void PageChanged();
+    void NoticeChanged();
     void reloadAsked();
 
 private:
@@ -92,8 +103,11 @@ private:
     Document m_document;
     ViewState m_view;
     Commands m_commands;
+    const MenuDocument m_factory_menu;
     CVqQuickMenu m_menu;
+    MenuKeeper m_keeper;
     MenuMarks m_marks;
+    KeyEditor m_key_editor;
     BatchResize m_batch_resize;
     vq_uint32 m_context_menu = 0;
     QString m_page;

@@ -31,23 +31,10 @@ Rectangle {
             color: line.command === "" ? Theme.softInk : Theme.ink
             font { pixelSize: Theme.text; weight: line.command === "" ? Font.Normal : Font.DemiBold }
         }
-        Rectangle {
-            visible: keyText.text !== ""
-            implicitWidth: keyText.implicitWidth + 14
-            implicitHeight: 20
-            radius: Theme.radius
-            color: Theme.accentGround
-
-            Text {
-                id: keyText
-
-                objectName: "statusKey"
-                anchors.centerIn: parent
-                text: Session.lastKey
-                textFormat: Text.PlainText
-                color: Theme.accent
-                font { pixelSize: Theme.smallText + 1; weight: Font.DemiBold }
-            }
+        KeyChip {
+            objectName: "statusKey"
+            visible: text !== ""
+            text: Session.lastKey
         }
         Text {
             objectName: "statusCommand"

@@ -15,6 +15,8 @@
 #include "gallery/script/KeyScript.h"
 #include "gallery/script/Screenshots.h"
 #include "gallery/script/Tour.h"
+#include "gallery/storage/PrintMenus.h"
+#include "quick_backend/CVqQuickBitmapPool.h"
 
 #include <QFont>
 #include <QGuiApplication>
@@ -43,6 +45,7 @@ void print(const QString& line, FILE* to = stdout)
 Gallery::OptionsResult read_options(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"arbor_gallery"_s); // also that of the user's data folder
     return Gallery::ParseOptions(QCoreApplication::arguments());
 }
 
@@ -133,14 +136,46 @@ int resize(int& argc, char** argv, const Gallery::Options& options)
     return Gallery::RunResizeCommand(options.resize, console);
 }
 
+int print_menus(const QString& file)
+{
+    const Gallery::PrintedMenus printed = Gallery::PrintMenus(file);
+    print(printed.error.isEmpty() ? printed.text : printed.error, printed.error.isEmpty() ? stdout : stderr);
+    return printed.error.isEmpty() ? 0 : g_bad_file;
+}
+
+int print_keys(int& argc, char** argv, const Gallery::Options& options, const Gallery::MenuDocument& document)
+{
+    const QCoreApplication application(argc, argv);
+    const Gallery::Translations translations(options.locale);
+    QString notice;
+    print(Gallery::PrintKeys(document, options.Home(), notice).join(u'\n'));
+    if (!notice.isEmpty())
+        print(notice, stderr);
+    return 0;
+}
+
+/// The notice of a session stands in its window, and here for who looks at the terminal.
+void print_notices(const Gallery::Session& session)
+{
+    const auto tell = [&session] {
+        if (!session.Notice().isEmpty())
+            print(session.Notice(), stderr);
+    };
+    QObject::connect(&session, &Gallery::Session::NoticeChanged, &session, tell);
+    tell();
+}
+
 int run(const Gallery::Options& options, const Gallery::MenuDocument& document)
 {
     const Gallery::Translations translations(options.locale);
-    Gallery::Session session(document);
+    CVqQuickBitmapPool pool; // before the menus that show its images
+    Gallery::Session session(document, options.Home());
+    print_notices(session);
     session.SetPage(options.page);
     Gallery::LiveAddresses addresses;
     QQmlApplicationEngine engine;
     engine.addUrlInterceptor(&addresses);
+    pool.AddImageProvider(engine);
     const Gallery::LiveReload live(Gallery::LiveFolders());
     QObject::connect(&live, &Gallery::LiveReload::Changed, &session, &Gallery::Session::AskReload);
     engine.load(Gallery::GalleryUrl(u"Main.qml"_s));
@@ -165,6 +200,8 @@ int main(int argc, char** argv)
         return result.exit_code;
     }
     QImageReader::setAllocationLimit(g_image_memory);
+    if (!result.options.print_menus.isEmpty())
+        return print_menus(result.options.print_menus);
     if (!result.options.resize.in.isEmpty())
         return resize(argc, argv, result.options);
     Gallery::MenuFile file;
@@ -172,6 +209,8 @@ int main(int argc, char** argv)
         print(file.Error(), stderr);
         return g_bad_file;
     }
+    if (result.options.print_keys)
+        return print_keys(argc, argv, result.options, file.Document());
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL); // what pages are drawn with
     const QGuiApplication application(argc, argv);
     QFont font = QGuiApplication::font();

@@ -2,6 +2,7 @@
 
 #include "AbstractGui/CVqAbstractMenu.h"
 #include "gallery/menu/KeyText.h"
+#include "gallery/menu/MenuImage.h"
 
 #include <QCoreApplication>
 
@@ -19,6 +20,16 @@ constexpr QChar g_bel(7);
 std::u16string wide(const QString& text)
 {
     return text.toStdU16String();
+}
+
+/// Gives an item that its popup's mnemonics pass over the one of its own marks, as when it is appended.
+void take_own_mnemonic(CVqMenuItem& item)
+{
+    const CVqMenuItem* parent = item.parentItem();
+    if (!parent)
+        return;
+    item.setMnemonic(0);
+    item.setMnemonic(_get_mnemonic(parent->subItem(), item.text()));
 }
 
 }
@@ -42,6 +53,38 @@ void MenuBuilder::Build(const MenuDocument& document)
         m_menu.AppendLonelyAccel(lonely.id, lonely.key.flags, lonely.key.key, wide(lonely.command).c_str());
 }
 
+void MenuBuilder::Restore(const MenuDocument& document, bool relabel)
+{
+    restore_all(document.menu);
+    restore_all(document.context);
+    if (!relabel)
+        return;
+    relabel_all(document.menu);
+    relabel_all(document.context);
+    update_mnemonics(document.menu, 0);
+    update_mnemonics(document.context, 0);
+}
+
+void MenuBuilder::restore_all(const std::vector<MenuEntry>& entries)
+{
+    for (const MenuEntry& entry : entries) {
+        restore_all(entry.items);
+        set_state(entry);
+    }
+    set_radio_groups(entries);
+}
+
+void MenuBuilder::relabel_all(const std::vector<MenuEntry>& entries)
+{
+    for (const MenuEntry& entry : entries) {
+        if (!entry.text.isEmpty())
+            m_menu.SetIdMenuString(entry.id, wide(LocalLabel(entry.text)).c_str());
+        if (!entry.mnemonic)
+            take_own_mnemonic(*m_menu.Manipulators().find_item(entry.id, m_menu.getRootMenuItem()));
+        relabel_all(entry.items);
+    }
+}
+
 void MenuBuilder::remove_from_bar(vq_uint32 popup)
 {
     m_menu.Manipulators().find_item(popup, m_menu.getRootMenuItem())->setRemoved(true);
@@ -51,6 +94,7 @@ void MenuBuilder::append_all(const std::vector<MenuEntry>& entries, vq_uint32 pa
 {
     for (const MenuEntry& entry : entries) {
         append(entry, parent);
+        set_image(entry);
         append_all(entry.items, entry.id);
         set_state(entry);
     }
@@ -92,10 +136,17 @@ void MenuBuilder::append_item(const MenuEntry& entry, vq_uint32 parent)
     m_menu.AppendMenuItem(entry.id, parent, wide(text).c_str(), wide(entry.command).c_str(), status);
 }
 
+void MenuBuilder::set_image(const MenuEntry& entry)
+{
+    const int index = entry.image.isEmpty() ? -1 : AddMenuImage(entry.image);
+    if (index >= 0)
+        m_menu.SetIdBitmap(entry.id, index);
+}
+
 void MenuBuilder::set_state(const MenuEntry& entry)
 {
-    if (!entry.enabled)
-        m_menu.EnableId(entry.id, false);
+    if (entry.type != MenuEntryType::Separator)
+        m_menu.EnableId(entry.id, entry.enabled);
     if (entry.checked && entry.radio.isEmpty()) {
         m_roles[entry.id].toggle = true;
         m_menu.CheckId(entry.id, *entry.checked);

@@ -34,6 +34,11 @@ public:
     /// root too, but removed, so that the bar does not show them.
     void Build(const MenuDocument& document);
 
+    /// Makes a menu that was built from `document` in an earlier run, stored and loaded, one of this run:
+    /// marks, radio dots and enabled states begin as the document has them. `relabel`: the labels are in
+    /// another language and are set anew, with their mnemonics.
+    void Restore(const MenuDocument& document, bool relabel);
+
     /// Entries with a mark, by identifier.
     const QHash<vq_uint32, MenuRole>& Roles() const { return m_roles; }
 
@@ -41,7 +46,10 @@ private:
     void remove_from_bar(vq_uint32 popup);
     void append_all(const std::vector<MenuEntry>& entries, vq_uint32 parent);
     void append(const MenuEntry& entry, vq_uint32 parent);
+    void restore_all(const std::vector<MenuEntry>& entries);
+    void relabel_all(const std::vector<MenuEntry>& entries);
     void append_item(const MenuEntry& entry, vq_uint32 parent);
+    void set_image(const MenuEntry& entry);
     void set_state(const MenuEntry& entry);
     void set_radio_groups(const std::vector<MenuEntry>& entries);
     void set_radio_group(const std::vector<MenuEntry>& entries, size_t first, size_t last);

@@ -37,6 +37,7 @@ struct MenuEntry
     vq_uint32 id = 0; ///< 0 for a separator: the builder gives it one.
     QString text;     ///< Label with `&` marks, in the language of the file.
     QString command;
+    QString image;                   ///< Name of an image in the icon module; empty for none.
     std::optional<MenuKey> text_key; ///< The key that stands as text in the file.
     QString key_text;                ///< That text, English names. Empty without one.
     QList<MenuKey> keys;             ///< Keys given with flags and value, in their order.
@@ -54,6 +55,7 @@ struct MenuEntry
 struct LonelyKey
 {
     vq_uint32 id = 0;
+    QString text; ///< What people call the command; empty when the file does not tell.
     QString command;
     MenuKey key;
 };
@@ -64,6 +66,7 @@ struct MenuDocument
     std::vector<MenuEntry> menu;    ///< The popups of the menu bar.
     std::vector<MenuEntry> context; ///< Context menus, each a popup.
     std::vector<LonelyKey> keys;
+    QString fingerprint; ///< Of the file's content: a file with another one is another menu.
 };
 
 }

@@ -1,6 +1,7 @@
 #include "gallery/menu/MenuEntryReader.h"
 
 #include "gallery/menu/KeyText.h"
+#include "gallery/menu/MenuImage.h"
 
 #include <QJsonArray>
 
@@ -27,13 +28,13 @@ const std::vector<TypeRow>& type_rows()
     static const std::vector<TypeRow> rows = {
         {u"item"_s,
          MenuEntryType::Item,
-         {u"id"_s, u"text"_s, u"command"_s, u"key"_s, u"keys"_s, u"radio"_s, u"checked"_s, u"enabled"_s,
-          u"mnemonic"_s}},
+         {u"id"_s, u"text"_s, u"command"_s, u"key"_s, u"keys"_s, u"image"_s, u"radio"_s, u"checked"_s,
+          u"enabled"_s, u"mnemonic"_s}},
         {u"separator"_s, MenuEntryType::Separator, {}},
         {u"onecolor"_s, MenuEntryType::OneColor, {u"id"_s, u"color"_s, u"command"_s}},
         {u"twocolor"_s, MenuEntryType::TwoColor, {u"id"_s, u"color1"_s, u"color2"_s, u"command"_s}},
         {u"linewidth"_s, MenuEntryType::LineWidth, {u"id"_s, u"text"_s, u"width"_s, u"command"_s}},
-        {u"popup"_s, MenuEntryType::Popup, {u"id"_s, u"text"_s, u"items"_s}},
+        {u"popup"_s, MenuEntryType::Popup, {u"id"_s, u"text"_s, u"image"_s, u"items"_s}},
     };
     return rows;
 }
@@ -169,6 +170,9 @@ bool MenuEntryReader::read_label(const Source& source, MenuEntry& entry)
 bool MenuEntryReader::read_look(const Source& source, MenuEntry& entry)
 {
     switch (entry.type) {
+    case MenuEntryType::Item:
+    case MenuEntryType::Popup:
+        return read_image(source, entry.image);
     case MenuEntryType::OneColor:
         return read_color(source, u"color"_s, entry.color1);
     case MenuEntryType::TwoColor:
@@ -266,6 +270,16 @@ bool MenuEntryReader::read_flag(const Source& source, const QString& member, boo
         return fail(source, member, u" needs true or false as "_s + quoted(member));
     flag = value.toBool(flag);
     return true;
+}
+
+bool MenuEntryReader::read_image(const Source& source, QString& image)
+{
+    if (!source.object.contains(u"image"_s))
+        return true;
+    if (!read_text(source, u"image"_s, image))
+        return false;
+    return HasMenuImage(image)
+        || fail(source, u"image"_s, u" has the image %1, which the icons do not have"_s.arg(quoted(image)));
 }
 
 bool MenuEntryReader::read_color(const Source& source, const QString& member, vq_uint32& color)

@@ -63,6 +63,7 @@ private:
     bool read_id(const Source& source, vq_uint32& id);
     bool read_text(const Source& source, const QString& member, QString& text);
     bool read_flag(const Source& source, const QString& member, bool& flag);
+    bool read_image(const Source& source, QString& image);
     bool read_color(const Source& source, const QString& member, vq_uint32& color);
     bool read_width(const Source& source, vq_uint32& width);
     bool read_keys(const Source& source, MenuEntry& entry);

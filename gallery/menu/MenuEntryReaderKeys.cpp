@@ -99,9 +99,11 @@ bool MenuEntryReader::claim_key(const Source& source, const QString& member, con
 bool MenuEntryReader::read_lonely(const Source& source, LonelyKey& lonely)
 {
     MenuEntry entry;
-    if (!CheckMembers(source.object, source.path, source.name, {u"id"_s, u"command"_s, u"key"_s, u"keys"_s})
-        || !read_id(source, lonely.id) || !read_text(source, u"command"_s, lonely.command)
-        || !read_keys(source, entry))
+    if (!CheckMembers(source.object, source.path, source.name,
+                      {u"id"_s, u"text"_s, u"command"_s, u"key"_s, u"keys"_s})
+        || !read_id(source, lonely.id)
+        || (source.object.contains(u"text"_s) && !read_text(source, u"text"_s, lonely.text))
+        || !read_text(source, u"command"_s, lonely.command) || !read_keys(source, entry))
         return false;
     if (entry.keys.size() + (entry.text_key ? 1 : 0) != 1)
         return fail(source, {}, u" needs one key"_s);

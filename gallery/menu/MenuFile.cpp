@@ -3,6 +3,7 @@
 #include "gallery/menu/JsonLines.h"
 #include "gallery/menu/MenuEntryReader.h"
 
+#include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -54,6 +55,8 @@ bool MenuFile::Parse(const QByteArray& json, const QString& name)
     if (!reader.Fault().reason.isEmpty())
         return fail(name, JsonLines(json).LineOf(reader.Fault().path), reader.Fault().reason);
     m_document = std::move(document);
+    m_document.fingerprint
+        = QString::fromLatin1(QCryptographicHash::hash(json, QCryptographicHash::Sha256).toHex());
     m_error.clear();
     return true;
 }

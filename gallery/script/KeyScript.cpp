@@ -23,6 +23,8 @@ QString KeyScript::Press(const KeyPress& press)
     const QString fired = fire(press);
     if (!fired.isEmpty())
         return u"%1 -> %2"_s.arg(press.name, fired);
+    if (!m_told.isEmpty())
+        return u"%1 -> %2"_s.arg(press.name, m_told);
     for (const vq_uint32 popup : OpenPopups())
         if (!before.contains(popup))
             return u"%1 -> opens popup %2"_s.arg(press.name, PlainLabel(*m_session.Menu(), popup));
@@ -32,12 +34,15 @@ QString KeyScript::Press(const KeyPress& press)
 QString KeyScript::fire(const KeyPress& press)
 {
     QString fired;
-    const auto connection
-        = QObject::connect(m_session.Menu(), &CVqQuickMenu::commandTriggered, &m_window,
-                           [&](uint id, const QString& command) { fired = u"%1 %2"_s.arg(id).arg(command); });
+    m_told.clear();
+    QObject listener;
+    QObject::connect(m_session.Menu(), &CVqQuickMenu::commandTriggered, &listener,
+                     [&](uint id, const QString& command) { fired = u"%1 %2"_s.arg(id).arg(command); });
+    const KeyEditor* editor = m_session.GetKeyEditor();
+    QObject::connect(editor, &KeyEditor::Changed, &listener,
+                     [this, editor] { m_told = editor->Question() + editor->Told(); });
     SendKeyPress(press, m_window);
     QCoreApplication::processEvents();
-    QObject::disconnect(connection);
     return fired;
 }
 

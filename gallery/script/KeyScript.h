@@ -23,6 +23,7 @@ public:
     ///     Ctrl+Shift+S -> 1017 FileSaveAs
     ///     Alt+F -> opens popup File
     ///     Ctrl+F9 -> no command
+    ///     Ctrl+K -> Blur has the key Ctrl+K now.
     QString Press(const KeyPress& press);
 
     /// Identifiers of the open popups of the window.
@@ -36,6 +37,7 @@ private:
 
     Session& m_session;
     QQuickWindow& m_window;
+    QString m_told; // by the key editor, of the last key
 };
 
 }

@@ -26,6 +26,26 @@
         <source>Resize</source>
         <translation>Skalieren</translation>
     </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Regler</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>Listen</translation>
+    </message>
 </context>
 <context>
     <name>PageSwitcher</name>
@@ -81,6 +101,159 @@
     <message>
         <source>Frames</source>
         <translation>Durchgänge</translation>
+    </message>
+</context>
+<context>
+    <name>ColoursPage</name>
+    <message>
+        <source>Colours</source>
+        <translation>Farben</translation>
+    </message>
+    <message>
+        <source>One colour as text, by its hue, and as a number in the layouts that programs pass around. Change it anywhere: everything else follows.</source>
+        <translation>Eine Farbe als Text, nach ihrem Farbton und als Zahl in den Anordnungen, die Programme untereinander weitergeben. Ändern Sie sie, wo Sie wollen: alles andere folgt.</translation>
+    </message>
+    <message>
+        <source>Colour</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Pastel</source>
+        <translation>Pastell</translation>
+    </message>
+    <message>
+        <source>Complement</source>
+        <translation>Gegenfarbe</translation>
+    </message>
+    <message>
+        <source>As text</source>
+        <translation>Als Text</translation>
+    </message>
+    <message>
+        <source>Hue, saturation, lightness</source>
+        <translation>Farbton, Sättigung, Helligkeit</translation>
+    </message>
+    <message>
+        <source>Hue, saturation, value</source>
+        <translation>Farbton, Sättigung, Hellwert</translation>
+    </message>
+    <message>
+        <source>Hue</source>
+        <translation>Farbton</translation>
+    </message>
+    <message>
+        <source>Saturation</source>
+        <translation>Sättigung</translation>
+    </message>
+    <message>
+        <source>Lightness</source>
+        <translation>Helligkeit</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Hellwert</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Packed into numbers</source>
+        <translation>In Zahlen gepackt</translation>
+    </message>
+    <message>
+        <source>Colour reference</source>
+        <translation>Farbreferenz</translation>
+    </message>
+    <message>
+        <source>RGB number</source>
+        <translation>RGB-Zahl</translation>
+    </message>
+</context>
+<context>
+    <name>SlidersPage</name>
+    <message>
+        <source>%1 px</source>
+        <translation>%1 px</translation>
+    </message>
+    <message>
+        <source>Sliders</source>
+        <translation>Regler</translation>
+    </message>
+    <message>
+        <source>On an exponential scale small values get more room. Choose the value that stands in the middle: the slider keeps its value and moves to where that is now.</source>
+        <translation>Auf einer exponentiellen Skala bekommen kleine Werte mehr Platz. Wählen Sie den Wert, der in der Mitte steht: der Regler behält seinen Wert und geht dorthin, wo dieser jetzt liegt.</translation>
+    </message>
+    <message>
+        <source>Width of a brush</source>
+        <translation>Breite eines Pinsels</translation>
+    </message>
+    <message>
+        <source>Exponential</source>
+        <translation>Exponentiell</translation>
+    </message>
+    <message>
+        <source>Even</source>
+        <translation>Gleichmäßig</translation>
+    </message>
+    <message>
+        <source>Value in the middle</source>
+        <translation>Wert in der Mitte</translation>
+    </message>
+    <message>
+        <source>Its share of the whole</source>
+        <translation>Sein Anteil am Ganzen</translation>
+    </message>
+    <message>
+        <source>Width in pixels</source>
+        <translation>Breite in Pixeln</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Stellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
+    </message>
+    <message>
+        <source>Exponent</source>
+        <translation>Exponent</translation>
+    </message>
+    <message>
+        <source>Fields that take numbers only: a pattern tells what can be typed.</source>
+        <translation>Felder, die nur Zahlen annehmen: ein Muster sagt, was sich eingeben lässt.</translation>
+    </message>
+    <message>
+        <source>Whole</source>
+        <translation>Ganze Zahl</translation>
+    </message>
+    <message>
+        <source>Whole, no sign</source>
+        <translation>Ganze Zahl, ohne Vorzeichen</translation>
+    </message>
+    <message>
+        <source>Decimal</source>
+        <translation>Dezimalzahl</translation>
+    </message>
+    <message>
+        <source>Decimal, no sign</source>
+        <translation>Dezimalzahl, ohne Vorzeichen</translation>
+    </message>
+</context>
+<context>
+    <name>ScaleCurve</name>
+    <message>
+        <source>Values over positions</source>
+        <translation>Werte über Stellungen</translation>
+    </message>
+    <message>
+        <source>Position</source>
+        <translation>Stellung</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>Wert</translation>
     </message>
 </context>
 <context>
@@ -257,6 +430,163 @@
     </message>
 </context>
 <context>
+    <name>KeysPage</name>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Choose a command and press the key that it is to have. If another command has that key, you are asked first. Your keys are kept for the next time.</source>
+        <translation>Wählen Sie einen Befehl und drücken Sie die Taste, die er haben soll. Hat ein anderer Befehl diese Taste, werden Sie vorher gefragt. Ihre Tasten bleiben für das nächste Mal erhalten.</translation>
+    </message>
+    <message>
+        <source>Search by command, menu or key</source>
+        <translation>Suche nach Befehl, Menü oder Taste</translation>
+    </message>
+</context>
+<context>
+    <name>CommandList</name>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>No command has all these words.</source>
+        <translation>Kein Befehl enthält alle diese Wörter.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyField</name>
+    <message>
+        <source>Press the key for %1</source>
+        <translation>Taste für %1 drücken</translation>
+    </message>
+    <message>
+        <source>Press the key</source>
+        <translation>Taste drücken</translation>
+    </message>
+    <message>
+        <source>Esc leaves all as it is</source>
+        <translation>Esc lässt alles, wie es ist</translation>
+    </message>
+    <message>
+        <source>Menus do not know that key</source>
+        <translation>Menüs kennen diese Taste nicht</translation>
+    </message>
+</context>
+<context>
+    <name>KeyPanel</name>
+    <message>
+        <source>Without an entry in a menu</source>
+        <translation>Ohne Eintrag in einem Menü</translation>
+    </message>
+    <message>
+        <source>It has no key.</source>
+        <translation>Er hat keine Taste.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove %1</source>
+        <translation>%1 entfernen</translation>
+    </message>
+    <message>
+        <source>Add a key</source>
+        <translation>Taste hinzufügen</translation>
+    </message>
+    <message>
+        <source>Take it over</source>
+        <translation>Übernehmen</translation>
+    </message>
+    <message>
+        <source>Leave it</source>
+        <translation>Belassen</translation>
+    </message>
+    <message>
+        <source>Factory keys for this command</source>
+        <translation>Werkstasten für diesen Befehl</translation>
+    </message>
+    <message>
+        <source>Factory keys for all commands...</source>
+        <translation>Werkstasten für alle Befehle...</translation>
+    </message>
+    <message>
+        <source>Commands with keys of your own: %1.</source>
+        <translation>Befehle mit eigenen Tasten: %1.</translation>
+    </message>
+    <message>
+        <source>Take all back</source>
+        <translation>Alle zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Keep them</source>
+        <translation>Behalten</translation>
+    </message>
+</context>
+<context>
+    <name>NoticeStrip</name>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::KeyEditor</name>
+    <message>
+        <source>%1 is the key of %2.</source>
+        <translation>%1 ist die Taste von %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the key %2 now.</source>
+        <translation>%1 hat jetzt die Taste %2.</translation>
+    </message>
+    <message>
+        <source>%1 has the key %2 already.</source>
+        <translation>%1 hat die Taste %2 schon.</translation>
+    </message>
+    <message>
+        <source>%1 has the key %2 now, which was taken from %3.</source>
+        <translation>%1 hat jetzt die Taste %2, die %3 genommen wurde.</translation>
+    </message>
+    <message>
+        <source>%1 keeps the key %2.</source>
+        <translation>%1 behält die Taste %2.</translation>
+    </message>
+    <message>
+        <source>%1 has lost the key %2.</source>
+        <translation>%1 hat die Taste %2 verloren.</translation>
+    </message>
+    <message>
+        <source>%1 has its factory keys again.</source>
+        <translation>%1 hat wieder die Werkstasten.</translation>
+    </message>
+    <message>
+        <source>%1 has its factory keys again, but for %2: another command has that.</source>
+        <translation>%1 hat wieder die Werkstasten, nur %2 nicht: ein anderer Befehl hat sie.</translation>
+    </message>
+    <message>
+        <source>All commands have their factory keys.</source>
+        <translation>Alle Befehle haben ihre Werkstasten.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::MenuKeeper</name>
+    <message>
+        <source>The menus cannot be stored in %1 (%2), so keys that you change last until the program ends.</source>
+        <translation>Die Menüs lassen sich nicht in %1 speichern (%2), geänderte Tasten gelten also bis zum Ende des Programms.</translation>
+    </message>
+    <message>
+        <source>The stored menus cannot be read, so they were set aside as %1 and the factory menus loaded.</source>
+        <translation>Die gespeicherten Menüs sind nicht lesbar und wurden als %1 beiseite gelegt, die Werksmenüs sind geladen.</translation>
+    </message>
+    <message>
+        <source>The stored menus in %1 cannot be read, so the factory menus were loaded and nothing is stored.</source>
+        <translation>Die gespeicherten Menüs in %1 sind nicht lesbar, darum sind die Werksmenüs geladen, und gespeichert wird nichts.</translation>
+    </message>
+</context>
+<context>
     <name>Gallery::PageHolder</name>
     <message>
         <source>The root of a page must be an item.</source>
@@ -306,6 +636,401 @@
     <message>
         <source>found in %1</source>
         <translation>gefunden in %1</translation>
+    </message>
+</context>
+<context>
+    <name>SortHeader</name>
+    <message>
+        <source>Sort by %1</source>
+        <translation>Nach %1 ordnen</translation>
+    </message>
+    <message>
+        <source>%1, sorted downwards</source>
+        <translation>%1, absteigend geordnet</translation>
+    </message>
+    <message>
+        <source>%1, sorted upwards</source>
+        <translation>%1, aufsteigend geordnet</translation>
+    </message>
+</context>
+<context>
+    <name>WriteLight</name>
+    <message>
+        <source>Files can be written here.</source>
+        <translation>Hier lassen sich Dateien schreiben.</translation>
+    </message>
+    <message>
+        <source>There is no such folder, but it can be made.</source>
+        <translation>Diesen Ordner gibt es nicht, er lässt sich aber anlegen.</translation>
+    </message>
+    <message>
+        <source>Nothing can be written here.</source>
+        <translation>Hier lässt sich nichts schreiben.</translation>
+    </message>
+</context>
+<context>
+    <name>RowNameField</name>
+    <message>
+        <source>New name of %1</source>
+        <translation>Neuer Name von %1</translation>
+    </message>
+</context>
+<context>
+    <name>FileList</name>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Folder, changed %1</source>
+        <translation>Ordner, geändert %1</translation>
+    </message>
+    <message>
+        <source>%1, changed %2</source>
+        <translation>%1, geändert %2</translation>
+    </message>
+</context>
+<context>
+    <name>FilesPage</name>
+    <message>
+        <source>There is no folder %1 that can be read.</source>
+        <translation>Es gibt keinen Ordner %1, der sich lesen lässt.</translation>
+    </message>
+    <message>
+        <source>Changed %1</source>
+        <translation>Geändert %1</translation>
+    </message>
+    <message>
+        <source>Made %1, changed %2</source>
+        <translation>Angelegt %1, geändert %2</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>A folder, in step with the disk. Enter opens a folder and Backspace goes up; F2 changes a name, and Del puts a file into the trash.</source>
+        <translation>Ein Ordner, immer auf dem Stand der Platte. Die Eingabetaste öffnet einen Ordner, die Rücktaste geht nach oben; F2 ändert einen Namen, und Entf legt eine Datei in den Papierkorb.</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Folder</source>
+        <translation>Ordner</translation>
+    </message>
+    <message>
+        <source>Names, such as *.png</source>
+        <translation>Namen, etwa *.png</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message>
+        <source>The folder is not there any more.</source>
+        <translation>Den Ordner gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>Nothing lies in this folder.</source>
+        <translation>In diesem Ordner liegt nichts.</translation>
+    </message>
+    <message>
+        <source>No name here matches.</source>
+        <translation>Kein Name hier passt.</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Take back</source>
+        <translation>Zurückholen</translation>
+    </message>
+    <message>
+        <source>Remove for good</source>
+        <translation>Endgültig entfernen</translation>
+    </message>
+    <message>
+        <source>Keep it</source>
+        <translation>Behalten</translation>
+    </message>
+</context>
+<context>
+    <name>LayerList</name>
+    <message>
+        <source>Layers</source>
+        <translation>Ebenen</translation>
+    </message>
+    <message>
+        <source>Row %1, %2, %3 %</source>
+        <translation>Zeile %1, %2, %3 %</translation>
+    </message>
+</context>
+<context>
+    <name>LayerPanel</name>
+    <message>
+        <source>No row in hand</source>
+        <translation>Keine Zeile gewählt</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation>Umbenennen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Insert above</source>
+        <translation>Darüber neu</translation>
+    </message>
+    <message>
+        <source>Insert at the end</source>
+        <translation>Am Ende neu</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Begin again</source>
+        <translation>Neu beginnen</translation>
+    </message>
+</context>
+<context>
+    <name>ListsPage</name>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Kind</source>
+        <translation>Art</translation>
+    </message>
+    <message>
+        <source>Opacity</source>
+        <translation>Deckkraft</translation>
+    </message>
+    <message>
+        <source>Paint</source>
+        <translation>Farbe</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Licht</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Shape</source>
+        <translation>Form</translation>
+    </message>
+    <message>
+        <source>Sky</source>
+        <translation>Himmel</translation>
+    </message>
+    <message>
+        <source>Hills</source>
+        <translation>Hügel</translation>
+    </message>
+    <message>
+        <source>Harbour</source>
+        <translation>Hafen</translation>
+    </message>
+    <message>
+        <source>Boats</source>
+        <translation>Boote</translation>
+    </message>
+    <message>
+        <source>Boats, mirrored</source>
+        <translation>Boote, gespiegelt</translation>
+    </message>
+    <message>
+        <source>Evening light</source>
+        <translation>Abendlicht</translation>
+    </message>
+    <message>
+        <source>Shadows</source>
+        <translation>Schatten</translation>
+    </message>
+    <message>
+        <source>Lamp glow</source>
+        <translation>Laternenschein</translation>
+    </message>
+    <message>
+        <source>Frame</source>
+        <translation>Rahmen</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Title shadow</source>
+        <translation>Titelschatten</translation>
+    </message>
+    <message>
+        <source>Signature</source>
+        <translation>Signatur</translation>
+    </message>
+    <message>
+        <source>Row %1 is row %2 now.</source>
+        <translation>Zeile %1 ist jetzt Zeile %2.</translation>
+    </message>
+    <message>
+        <source>New layer</source>
+        <translation>Neue Ebene</translation>
+    </message>
+    <message>
+        <source>Row %1 is new.</source>
+        <translation>Zeile %1 ist neu.</translation>
+    </message>
+    <message>
+        <source>%1 is removed.</source>
+        <translation>%1 ist entfernt.</translation>
+    </message>
+    <message>
+        <source>Lists</source>
+        <translation>Listen</translation>
+    </message>
+    <message>
+        <source>One list in C++, shown through a filter. Carry a row by its handle, or with Alt and the arrows; F2 changes its name, Left and Right its opacity, Ins and Del add and remove rows.</source>
+        <translation>Eine Liste in C++, durch einen Filter gezeigt. Eine Zeile zieht man am Griff oder mit Alt und den Pfeilen; F2 ändert ihren Namen, Links und Rechts ihre Deckkraft, Einfg und Entf fügen Zeilen ein und entfernen sie.</translation>
+    </message>
+    <message>
+        <source>Show rows with</source>
+        <translation>Zeilen zeigen mit</translation>
+    </message>
+    <message>
+        <source>Expression</source>
+        <translation>Ausdruck</translation>
+    </message>
+    <message>
+        <source>Wildcards</source>
+        <translation>Platzhalter</translation>
+    </message>
+    <message>
+        <source>Anywhere</source>
+        <translation>Überall</translation>
+    </message>
+    <message>
+        <source>This is no expression yet.</source>
+        <translation>Das ist noch kein Ausdruck.</translation>
+    </message>
+    <message>
+        <source>The list is empty.</source>
+        <translation>Die Liste ist leer.</translation>
+    </message>
+    <message>
+        <source>No row matches.</source>
+        <translation>Keine Zeile passt.</translation>
+    </message>
+    <message>
+        <source>Rows can be moved while they are sorted upwards by their number.</source>
+        <translation>Zeilen lassen sich verschieben, solange sie nach ihrer Nummer geordnet sind.</translation>
+    </message>
+    <message>
+        <source>Rows shown: %1</source>
+        <translation>Gezeigte Zeilen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::FileEdits</name>
+    <message>
+        <source>There is no trash for %1. Remove it for good? That cannot be undone.</source>
+        <translation>Für %1 gibt es keinen Papierkorb. Endgültig entfernen? Das lässt sich nicht zurücknehmen.</translation>
+    </message>
+    <message>
+        <source>%1 is now %2.</source>
+        <translation>%1 heißt jetzt %2.</translation>
+    </message>
+    <message>
+        <source>A name needs at least one letter.</source>
+        <translation>Ein Name braucht mindestens einen Buchstaben.</translation>
+    </message>
+    <message>
+        <source>%1 cannot be a name.</source>
+        <translation>%1 kann kein Name sein.</translation>
+    </message>
+    <message>
+        <source>There is something else with the name %1.</source>
+        <translation>Es gibt schon etwas mit dem Namen %1.</translation>
+    </message>
+    <message>
+        <source>%1 could not be renamed.</source>
+        <translation>%1 ließ sich nicht umbenennen.</translation>
+    </message>
+    <message>
+        <source>%1 is not there any more.</source>
+        <translation>%1 gibt es nicht mehr.</translation>
+    </message>
+    <message>
+        <source>%1 stays: nothing can be changed in its folder.</source>
+        <translation>%1 bleibt: in seinem Ordner lässt sich nichts ändern.</translation>
+    </message>
+    <message>
+        <source>%1 is in the trash.</source>
+        <translation>%1 ist im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>%1 stays: there is no trash for it, and folders are not removed for good.</source>
+        <translation>%1 bleibt: dafür gibt es keinen Papierkorb, und Ordner werden nicht endgültig entfernt.</translation>
+    </message>
+    <message>
+        <source>%1 could not be removed.</source>
+        <translation>%1 ließ sich nicht entfernen.</translation>
+    </message>
+    <message>
+        <source>%1 is removed for good.</source>
+        <translation>%1 ist endgültig entfernt.</translation>
+    </message>
+    <message>
+        <source>%1 is not in the trash any more.</source>
+        <translation>%1 ist nicht mehr im Papierkorb.</translation>
+    </message>
+    <message>
+        <source>%1 stays in the trash: something else has its name now.</source>
+        <translation>%1 bleibt im Papierkorb: seinen Namen trägt jetzt etwas anderes.</translation>
+    </message>
+    <message>
+        <source>%1 could not be taken out of the trash.</source>
+        <translation>%1 ließ sich nicht aus dem Papierkorb holen.</translation>
+    </message>
+    <message>
+        <source>%1 is back.</source>
+        <translation>%1 ist wieder da.</translation>
     </message>
 </context>
 <context>
@@ -1637,6 +2362,46 @@
     <message>
         <source>Swap Co&amp;lours</source>
         <translation>Farben tauschen</translation>
+    </message>
+    <message>
+        <source>Pan Left</source>
+        <translation>Nach links schieben</translation>
+    </message>
+    <message>
+        <source>Pan Right</source>
+        <translation>Nach rechts schieben</translation>
+    </message>
+    <message>
+        <source>Pan Up</source>
+        <translation>Nach oben schieben</translation>
+    </message>
+    <message>
+        <source>Pan Down</source>
+        <translation>Nach unten schieben</translation>
+    </message>
+    <message>
+        <source>Smaller Brush</source>
+        <translation>Kleinerer Pinsel</translation>
+    </message>
+    <message>
+        <source>Larger Brush</source>
+        <translation>Größerer Pinsel</translation>
+    </message>
+    <message>
+        <source>Previous Layer</source>
+        <translation>Vorherige Ebene</translation>
+    </message>
+    <message>
+        <source>Next Layer</source>
+        <translation>Nächste Ebene</translation>
+    </message>
+    <message>
+        <source>Undo All</source>
+        <translation>Alles zurücknehmen</translation>
+    </message>
+    <message>
+        <source>Before and After</source>
+        <translation>Vorher und nachher</translation>
     </message>
 </context>
 </TS>

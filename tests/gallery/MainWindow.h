@@ -4,6 +4,7 @@
 #include "gallery/Session.h"
 #include "gallery/Translations.h"
 #include "gallery/live/LiveAddresses.h"
+#include "quick_backend/CVqQuickBitmapPool.h"
 #include "tests/gallery/QmlTypes.h"
 #include "tests/gallery/RealMenu.h"
 
@@ -17,9 +18,11 @@
 class MainWindow
 {
 public:
-    explicit MainWindow(const QString& locale = QStringLiteral("en")) : m_translations(locale)
+    explicit MainWindow(const QString& locale = QStringLiteral("en"), const Gallery::MenuHome& home = {})
+        : m_translations(locale), m_session(RealMenu(), home)
     {
         RegisterQmlTypes();
+        m_pool.AddImageProvider(m_engine);
         m_engine.addUrlInterceptor(&m_addresses);
         m_engine.load(Gallery::GalleryUrl(QStringLiteral("Main.qml")));
         m_window = qobject_cast<QQuickWindow*>(m_engine.rootObjects().value(0));
@@ -33,7 +36,8 @@ public:
 
 private:
     Gallery::Translations m_translations;
-    Gallery::Session m_session{RealMenu()};
+    CVqQuickBitmapPool m_pool;
+    Gallery::Session m_session;
     Gallery::LiveAddresses m_addresses;
     QQmlApplicationEngine m_engine;
     QQuickWindow* m_window = nullptr;

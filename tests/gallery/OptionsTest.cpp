@@ -1,5 +1,7 @@
 #include "gallery/Options.h"
 
+#include <QStandardPaths>
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -84,10 +86,51 @@ TEST(Options, HelpNamesEveryOptionAndEndsWithZero)
     const OptionsResult result = parse({u"--help"_s});
 
     EXPECT_EQ(result.exit_code, 0);
-    for (const QString& option :
-         {u"--keys"_s, u"--screenshots"_s, u"--demo"_s, u"--locale"_s, u"--menus"_s, u"--page"_s, u"--qml"_s,
-          u"--render"_s, u"--out"_s, u"--size"_s, u"--set"_s})
+    for (const QString& option : {u"--keys"_s, u"--screenshots"_s, u"--demo"_s, u"--locale"_s, u"--menus"_s,
+                                  u"--page"_s, u"--qml"_s, u"--data"_s, u"--print-menus"_s, u"--print-keys"_s,
+                                  u"--render"_s, u"--out"_s, u"--size"_s, u"--set"_s})
         EXPECT_TRUE(result.message.contains(option)) << option.toStdString();
+}
+
+TEST(Options, AnUnknownPageIsAnsweredWithThePagesThereAre)
+{
+    const OptionsResult result = parse({u"--page=WobblePage"_s});
+
+    EXPECT_EQ(result.exit_code, 2);
+    EXPECT_TRUE(result.message.startsWith(u"There is no page \"WobblePage\"; there are PicturePage, "_s));
+}
+
+TEST(Options, StoredMenusAndKeysArePrintedWithoutAScript)
+{
+    const OptionsResult menus = parse({u"--print-menus"_s, u"a.cbor"_s});
+    const OptionsResult keys = parse({u"--print-keys"_s});
+
+    EXPECT_EQ(menus.options.print_menus, u"a.cbor"_s);
+    EXPECT_FALSE(menus.options.print_keys);
+    EXPECT_EQ(keys.exit_code, -1);
+    EXPECT_TRUE(keys.options.print_keys);
+    EXPECT_FALSE(keys.options.IsScript());
+}
+
+TEST(Options, AWindowThatStaysOpenKeepsItsMenusInTheUsersFolder)
+{
+    const Gallery::MenuHome home = parse({u"--locale=de"_s}).options.Home();
+
+    EXPECT_EQ(home.folder, QStandardPaths::writableLocation(QStandardPaths::AppDataLocation));
+    EXPECT_EQ(home.language, u"de"_s);
+    EXPECT_TRUE(home.is_written);
+}
+
+TEST(Options, ScriptsAndOtherMenusKeepNone)
+{
+    for (const QString& option :
+         {u"--keys=F1"_s, u"--screenshots=out"_s, u"--demo=out"_s, u"--menus=m.json"_s})
+        EXPECT_EQ(parse({option}).options.Home().folder, QString()) << option.toStdString();
+}
+
+TEST(Options, AScriptKeepsItsMenusWhereItIsTold)
+{
+    EXPECT_EQ(parse({u"--keys=F1"_s, u"--data=d"_s}).options.Home().folder, u"d"_s);
 }
 
 class BadArguments : public testing::TestWithParam<BadRow>
@@ -115,10 +158,14 @@ INSTANTIATE_TEST_SUITE_P(
         BadRow{"EmptyKeys", {u"--keys"_s, u""_s}, "Missing value after '--keys'."},
         BadRow{"EmptyFolder", {u"--demo="_s}, "Missing value after '--demo'."},
         BadRow{"EmptyFile", {u"--menus"_s, u""_s}, "Missing value after '--menus'."},
-        BadRow{"UnknownPage",
-               {u"--page=WobblePage"_s},
-               "There is no page \"WobblePage\"; there are PicturePage, OffscreenPage, ResourcesPage, "
-               "ResizePage."},
+        BadRow{"EmptyData", {u"--data="_s}, "Missing value after '--data'."},
+        BadRow{"DataWithAMenu", {u"--data=d"_s, u"--menus=m.json"_s}, "--data does not go with --menus."},
+        BadRow{"DataWithAPicture",
+               {u"--data=d"_s, u"--render=a.qml"_s, u"--out=a.png"_s},
+               "--data does not go with --render."},
+        BadRow{"DataWithResize",
+               {u"--data=d"_s, u"--resize=in"_s, u"out"_s, u"--width=9"_s},
+               "--data does not go with --resize."},
         BadRow{"PictureWithoutAFile", {u"--render="_s, u"--out=a.png"_s}, "Missing value after '--render'."},
         BadRow{"PictureOfNothing", {u"--out=a.png"_s}, "--out goes with --render."},
         BadRow{"Positional", {u"picture.png"_s}, "\"picture.png\" is no option."}),

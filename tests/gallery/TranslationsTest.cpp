@@ -66,6 +66,8 @@ TEST(Translations, GermanHasEveryLabelOfTheMenu)
     const auto note = [&labels](const MenuEntry& entry, int) { labels << entry.text; };
     VisitEntries(RealMenu().menu, note);
     VisitEntries(RealMenu().context, note);
+    for (const Gallery::LonelyKey& lonely : RealMenu().keys)
+        labels << lonely.text;
     QTranslator german;
     ASSERT_TRUE(german.load(u":/i18n/gallery_de.qm"_s));
 

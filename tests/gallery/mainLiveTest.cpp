@@ -1,6 +1,7 @@
 #include "tests/gallery/DeveloperMode.h"
 
 #include <QProcess>
+#include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
 
@@ -20,7 +21,8 @@ public:
         environment.insert(u"ORV_DEVELOP_RESOURCES"_s, QString());
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::MergedChannels);
-        m_process.start(QStringLiteral(ARBOR_GALLERY_PROGRAM), {u"--qml"_s, copy.Folder()});
+        m_process.start(QStringLiteral(ARBOR_GALLERY_PROGRAM),
+                        {u"--qml"_s, copy.Folder(), u"--data"_s, m_data.path()});
     }
 
     ~LiveProgram()
@@ -47,6 +49,7 @@ public:
     }
 
 private:
+    QTemporaryDir m_data;
     QProcess m_process;
     QByteArray m_printed;
 };

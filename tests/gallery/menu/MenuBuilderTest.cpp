@@ -1,6 +1,7 @@
 #include "gallery/menu/MenuBuilder.h"
 
 #include "gallery/menu/KeyText.h"
+#include "quick_backend/CVqQuickBitmapPool.h"
 #include "quick_backend/CVqQuickMenu.h"
 #include "quick_backend/CVqQuickMenuItem.h"
 #include "tests/gallery/RealMenu.h"
@@ -99,6 +100,63 @@ TEST(MenuBuilder, StatesAreSet)
     EXPECT_EQ(built.Item(3)->status(), 3u);
     EXPECT_EQ(built.Item(4)->status(), 17u);
     EXPECT_EQ(built.Item(4)->mnemonic(), 0);
+}
+
+TEST(MenuBuilder, ImagesAreThoseOfThePool)
+{
+    const CVqQuickBitmapPool pool;
+    BuiltMenu built(parse(R"({ "id": 2, "text": "A", "command": "A", "image": "copy" },
+        { "type": "popup", "id": 3, "text": "B", "image": "cut", "items": [] },
+        { "id": 4, "text": "C", "command": "C" })"));
+
+    EXPECT_GT(built.Item(2)->enaBmpIndex(), 0);
+    EXPECT_GT(built.Item(3)->enaBmpIndex(), built.Item(2)->enaBmpIndex());
+    EXPECT_EQ(built.Item(4)->enaBmpIndex(), -1);
+}
+
+TEST(MenuBuilder, WithoutAPoolThereAreNoImages)
+{
+    BuiltMenu built(parse(R"({ "id": 2, "text": "A", "command": "A", "image": "copy" })"));
+
+    EXPECT_EQ(built.Item(2)->enaBmpIndex(), -1);
+}
+
+TEST(MenuBuilder, RestoreGivesMarksAndStatesAsTheDocumentHasThem)
+{
+    const MenuDocument document = parse(R"({ "id": 2, "text": "A", "command": "A", "enabled": false },
+        { "id": 3, "text": "B", "command": "B", "checked": true },
+        { "id": 4, "text": "C", "command": "C", "radio": "g", "checked": true },
+        { "id": 5, "text": "D", "command": "D", "radio": "g" },
+        { "id": 6, "text": "E", "command": "E" })");
+    BuiltMenu built(document);
+    built.m_menu.EnableId(2, true);
+    built.m_menu.CheckId(3, false);
+    built.m_menu.CheckRadioId(5, 4, 5);
+    built.m_menu.EnableId(6, false);
+    MenuBuilder restorer(built.m_menu);
+
+    restorer.Restore(document, false);
+
+    EXPECT_EQ(built.Item(2)->status(), 4u);
+    EXPECT_EQ(built.Item(3)->status(), 3u);
+    EXPECT_EQ(built.Item(4)->status(), 3u);
+    EXPECT_EQ(built.Item(5)->status(), 1u);
+    EXPECT_EQ(built.Item(6)->status(), 1u);
+    EXPECT_EQ(restorer.Roles().size(), 3);
+}
+
+TEST(MenuBuilder, RestoreSetsLabelsOnlyWhenAsked)
+{
+    const MenuDocument document = parse(R"({ "id": 2, "text": "&Open", "command": "A", "key": "Ctrl+O" })");
+    BuiltMenu built(document);
+    built.m_menu.SetIdMenuString(2, VQ_TEXT("Öffnen"));
+
+    MenuBuilder(built.m_menu).Restore(document, false);
+    EXPECT_EQ(built.Text(2), u"Öffnen\aCtrl+O"_s);
+    MenuBuilder(built.m_menu).Restore(document, true);
+
+    EXPECT_EQ(built.Text(2), u"&Open\aCtrl+O"_s);
+    EXPECT_EQ(built.Item(2)->mnemonic(), u'O');
 }
 
 TEST(MenuBuilder, RadioGroupsHaveOneMarkAndRadioDots)

@@ -53,6 +53,19 @@ TEST(MenuEntryReaderKeys, FlagsAndValueGiveKeysThatNoTextCarries)
     EXPECT_FALSE(entry.text_key);
 }
 
+TEST(MenuEntryReaderKeys, AKeyWithoutAnEntryMayHaveAText)
+{
+    MenuFile file;
+
+    ASSERT_TRUE(file.Parse(
+        with("\"key\": \"F2\"", R"({ "id": 9, "text": "Pan Left", "command": "Pan", "key": "Left" },
+        { "id": 10, "command": "Compare", "key": "Right" })"),
+        u"m.json"_s));
+
+    EXPECT_EQ(file.Document().keys[0].text, u"Pan Left"_s);
+    EXPECT_EQ(file.Document().keys[1].text, QString());
+}
+
 TEST(MenuEntryReaderKeys, AKeyWithoutAnEntryHasACommand)
 {
     MenuFile file;
@@ -110,8 +123,8 @@ INSTANTIATE_TEST_SUITE_P(
         BadKey{"LonelyWithTwoKeys", R"("key": "F2")",
                R"({ "id": 9, "command": "Pan", "key": "F3", "keys": [{ "flags": [], "key": 220 }] })",
                "m.json, line 5: entry \"Pan\" needs one key."},
-        BadKey{"LonelyWithAText", R"("key": "F2")", R"({ "id": 9, "command": "Pan", "text": "P" })",
-               "m.json, line 5: entry \"Pan\" has an unknown member \"text\"."},
+        BadKey{"LonelyWithAnImage", R"("key": "F2")", R"({ "id": 9, "command": "Pan", "image": "P" })",
+               "m.json, line 5: entry \"Pan\" has an unknown member \"image\"."},
         BadKey{"LonelyWithAnIdInUse", R"("key": "F2")", R"({ "id": 2, "command": "Pan", "key": "F3" })",
                "m.json, line 5: entry \"Pan\" has the id 2, which entry \"CmdA\" has already."}),
     [](const auto& row) { return row.param.name; });

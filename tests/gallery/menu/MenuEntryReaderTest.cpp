@@ -96,6 +96,13 @@ TEST(MenuEntryReader, OneColourAndLineWidthAreTaken)
     EXPECT_EQ(read(R"({ "type": "linewidth", "id": 7, "text": "5", "width": 5, "command": "C" })").width, 5u);
 }
 
+TEST(MenuEntryReader, ItemsAndPopupsTakeAnImage)
+{
+    EXPECT_EQ(read(R"({ "id": 7, "text": "A", "command": "C", "image": "copy" })").image, u"copy"_s);
+    EXPECT_EQ(read(R"({ "type": "popup", "id": 7, "text": "A", "image": "zoom_in", "items": [] })").image,
+              u"zoom_in"_s);
+}
+
 TEST(MenuEntryReader, PopupsNestDownToTheLimit)
 {
     MenuFile file;
@@ -214,6 +221,13 @@ INSTANTIATE_TEST_SUITE_P(
                  "entry \"CmdA\" needs true or false as \"checked\"."},
         BadEntry{"RadioIsNoText", R"({ "id": 7, "text": "A", "command": "CmdA", "radio": 1 })",
                  "entry \"CmdA\" needs a text as \"radio\"."},
+        BadEntry{"ImageIsNoText", R"({ "id": 7, "text": "A", "command": "CmdA", "image": 1 })",
+                 "entry \"CmdA\" needs a text as \"image\"."},
+        BadEntry{"ImageThatIsNone", R"({ "id": 7, "text": "A", "command": "CmdA", "image": "coppy" })",
+                 "entry \"CmdA\" has the image \"coppy\", which the icons do not have."},
+        BadEntry{"ImageOfAColour",
+                 R"({ "type": "onecolor", "id": 7, "color": "#010203", "command": "CmdA", "image": "copy" })",
+                 "entry \"CmdA\" has an unknown member \"image\"."},
         BadEntry{"ColourWithoutHash",
                  R"({ "type": "onecolor", "id": 7, "color": "1234567", "command": "CmdA" })",
                  "entry \"CmdA\" needs a colour such as \"#3f6fb5\" as \"color\"."},

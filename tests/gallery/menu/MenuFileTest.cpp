@@ -38,6 +38,20 @@ TEST(MenuFile, AGoodFileGivesItsEntries)
     EXPECT_TRUE(file.Error().isEmpty());
 }
 
+TEST(MenuFile, AnotherContentHasAnotherFingerprint)
+{
+    MenuFile one;
+    MenuFile same;
+    MenuFile other;
+    ASSERT_TRUE(one.Parse(R"({ "format": 1, "menu": [] })", u"a.json"_s));
+    ASSERT_TRUE(same.Parse(R"({ "format": 1, "menu": [] })", u"b.json"_s));
+    ASSERT_TRUE(other.Parse(R"({ "format": 1, "menu": [], "keys": [] })", u"a.json"_s));
+
+    EXPECT_FALSE(one.Document().fingerprint.isEmpty());
+    EXPECT_EQ(one.Document().fingerprint, same.Document().fingerprint);
+    EXPECT_NE(one.Document().fingerprint, other.Document().fingerprint);
+}
+
 TEST(MenuFile, ABadFileLeavesTheDocument)
 {
     MenuFile file;

@@ -1,0 +1,78 @@
+#include "gallery/storage/PrintMenus.h"
+
+#include "gallery/storage/MenuStore.h"
+#include "gallery/storage/StoredTree.h"
+#include "tests/gallery/keys/KeyMenu.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+using Gallery::PrintedMenus;
+
+namespace {
+
+class PrintMenus : public testing::Test
+{
+protected:
+    QTemporaryDir m_folder;
+};
+
+}
+
+TEST_F(PrintMenus, AMenuIsReadableJson)
+{
+    CVqVariant menu;
+    KeyMenu(KeyDocument()).Menu().Save(menu);
+    Gallery::WriteStoredTree(m_folder.filePath(u"a.cbor"_s), menu);
+
+    const PrintedMenus printed = Gallery::PrintMenus(m_folder.filePath(u"a.cbor"_s));
+
+    EXPECT_EQ(printed.error, QString());
+    EXPECT_TRUE(printed.text.startsWith(u"[\"\", \"level\", ["_s));
+    EXPECT_TRUE(printed.text.endsWith(u']'));
+    EXPECT_TRUE(printed.text.contains(u"\"Text\", \"text\", \"&Print...\""_s)) << printed.text.toStdString();
+}
+
+TEST_F(PrintMenus, AFileThatIsNoneGivesOneSentence)
+{
+    const PrintedMenus printed = Gallery::PrintMenus(m_folder.path());
+
+    EXPECT_EQ(printed.error, m_folder.path() + u": it is a folder."_s);
+    EXPECT_EQ(printed.text, QString());
+}
+
+TEST_F(PrintMenus, KeysAreThoseThatTheMenuShows)
+{
+    QString notice;
+
+    const QStringList lines = Gallery::PrintKeys(KeyDocument(), {}, notice);
+
+    EXPECT_EQ(lines,
+              (QStringList{u"2 Save: Ctrl+S, F12"_s, u"91 Save: Shift+F12"_s, u"3 Print: Ctrl+P"_s,
+                           u"90 Pan: Left"_s}));
+    EXPECT_EQ(notice, QString());
+}
+
+TEST_F(PrintMenus, KeysAreThoseOfTheFolder)
+{
+    Gallery::StoredMenu stored{KeyDocument().fingerprint, u"en"_s, {}, {}};
+    KeyMenu menu(KeyDocument());
+    menu.Menu().SetIdAccelKey(3, KeyOf::CtrlK.flags, KeyOf::CtrlK.key, false);
+    menu.Menu().Save(stored.menu);
+    Gallery::MenuStore(m_folder.path()).Write(stored);
+    QString notice;
+
+    const QStringList lines = Gallery::PrintKeys(KeyDocument(), {m_folder.path()}, notice);
+
+    EXPECT_TRUE(lines.contains(u"3 Print: Ctrl+K"_s)) << lines.join(u'\n').toStdString();
+}
+
+TEST_F(PrintMenus, PrintingKeysWritesNothing)
+{
+    QString notice;
+
+    Gallery::PrintKeys(KeyDocument(), {m_folder.path()}, notice);
+
+    EXPECT_TRUE(QDir(m_folder.path()).isEmpty());
+}
