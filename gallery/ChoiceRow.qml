@@ -23,6 +23,7 @@ Row {
             required property int index
             readonly property bool current: row.current === index
 
+            objectName: "choice" + index
             implicitWidth: label.implicitWidth + 24
             implicitHeight: 30
             radius: Theme.radius

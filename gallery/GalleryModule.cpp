@@ -1,6 +1,7 @@
 #include "gallery/GalleryModule.h"
 
 #include "arbor_qml_support.h"
+#include "qml_module/VqQmlModule.h"
 
 /// Registers the types of GalleryTypes.h; made by the build.
 void qml_register_types_K7_Arbor_Gallery();
@@ -11,6 +12,7 @@ namespace Gallery {
 // are registered here alone. The back end's module is left to the engine, as in any program that uses it.
 void AddRegistrators()
 {
+    VQ_AddQmlModule();
     Quick::Register::AddRegistrator(&qml_register_types_K7_Arbor_Gallery);
 }
 

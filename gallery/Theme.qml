@@ -18,6 +18,10 @@ QtObject {
     readonly property color accentGround: dark ? "#33475e" : "#dce7f4"
     readonly property color accentInk: dark ? "#10161d" : "#ffffff"
     readonly property color danger: dark ? "#ef8a80" : "#b3261e"
+    readonly property color red: dark ? "#e5736b" : "#c4342b"
+    readonly property color green: dark ? "#74c27a" : "#2e8b3d"
+    readonly property color blue: dark ? "#6ea8e5" : "#2f67a8"
+    readonly property color knob: dark ? "#dfe2e7" : "#ffffff"
     readonly property color hover: dark ? "#383b41" : "#e9ebef"
 
     readonly property int space: 8
