@@ -6,7 +6,11 @@
 #include "gallery/OffscreenPicture.h"
 #include "gallery/PageHolder.h"
 #include "gallery/Session.h"
+#include "gallery/files/FileEdits.h"
+#include "gallery/files/Folder.h"
+#include "gallery/files/WriteCheck.h"
 #include "gallery/keys/KeyCapture.h"
+#include "gallery/lists/LayerListModel.h"
 #include "gallery/picture/CanvasItem.h"
 #include "gallery/resize/BatchResize.h"
 
@@ -37,6 +41,28 @@ struct CanvasType
     QML_NAMED_ELEMENT(PictureArea)
 };
 
+struct FileEditsType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::FileEdits)
+    QML_NAMED_ELEMENT(FileEdits)
+};
+
+struct FolderType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::Folder)
+    QML_NAMED_ELEMENT(Folder)
+};
+
+struct FolderModelType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::FolderModel)
+    QML_NAMED_ELEMENT(FolderModel)
+    QML_UNCREATABLE("A folder has one.")
+};
+
 struct KeyCaptureType
 {
     Q_GADGET
@@ -58,6 +84,13 @@ struct KeyListModelType
     QML_FOREIGN(Gallery::KeyListModel)
     QML_NAMED_ELEMENT(KeyListModel)
     QML_UNCREATABLE("The key editor of a session has one.")
+};
+
+struct LayerListModelType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::LayerListModel)
+    QML_NAMED_ELEMENT(LayerListModel)
 };
 
 struct OffscreenPictureType
@@ -88,6 +121,13 @@ public:
         QJSEngine::setObjectOwnership(Gallery::Session::OfProgram(), QJSEngine::CppOwnership);
         return Gallery::Session::OfProgram();
     }
+};
+
+struct WriteCheckType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::WriteCheck)
+    QML_NAMED_ELEMENT(WriteCheck)
 };
 
 struct DocumentType

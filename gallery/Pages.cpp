@@ -13,7 +13,8 @@ constexpr const char* g_titles[] = {
     QT_TRANSLATE_NOOP("Pages", "Picture"),   QT_TRANSLATE_NOOP("Pages", "Offscreen"),
     QT_TRANSLATE_NOOP("Pages", "Resources"), QT_TRANSLATE_NOOP("Pages", "Resize"),
     QT_TRANSLATE_NOOP("Pages", "Keys"),      QT_TRANSLATE_NOOP("Pages", "Colours"),
-    QT_TRANSLATE_NOOP("Pages", "Sliders"),
+    QT_TRANSLATE_NOOP("Pages", "Sliders"),   QT_TRANSLATE_NOOP("Pages", "Files"),
+    QT_TRANSLATE_NOOP("Pages", "Lists"),
 };
 
 QString name_of(const char* title)
