@@ -203,7 +203,8 @@ vq_uint64 CVqAbstractControl::GetWindowHandle()
 
 void CVqAbstractControl::SetDesriptionText(CVqStringW& text)
 {
-    const CVqStringW tooltip(text); // `text` may be one of those that are set
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): `text` may be one of those that are set.
+    const CVqStringW tooltip(text);
     for (vq_uint32 i = 0; i < used_states(); ++i)
         m_pStates[i].m_tooltip = tooltip;
 }

@@ -105,8 +105,9 @@ int CVqAbstractControl::Get(unsigned code, vq_int64 index, void* data)
         return give(data, m_strName);
     case vq_control_separator:
         return give(data, 0);
+    default:
+        return failed;
     }
-    return failed;
 }
 
 int CVqAbstractControl::Set(unsigned code, vq_int64 index, void* data)
@@ -137,8 +138,9 @@ int CVqAbstractControl::Set(unsigned code, vq_int64 index, void* data)
         return take(data, m_strName);
     case vq_control_translate_tooltip:
         return take_number(data, [this](vq_int32 on) { m_bTranslateTooltip = on > 0; });
+    default:
+        return failed;
     }
-    return failed;
 }
 
 int CVqAbstractControl::Command(unsigned code, vq_int64 index, void* data)
@@ -157,8 +159,9 @@ int CVqAbstractControl::Command(unsigned code, vq_int64 index, void* data)
     case vq_control_clear_states:
         m_uiStateCount = 0;
         return 0;
+    default:
+        return failed;
     }
-    return failed;
 }
 
 int CVqAbstractControl::delete_state(vq_int64 index)

@@ -235,7 +235,7 @@ private:
     ARBOR_QML_SUPPORT_NO_EXPORT void add_picker(const vq_wchar* name);
     ARBOR_QML_SUPPORT_NO_EXPORT void delete_controls();
     ARBOR_QML_SUPPORT_NO_EXPORT bool prepare_control(IVqUIcontrol& control);
-    ARBOR_QML_SUPPORT_NO_EXPORT void pass_settings(IVqUIcontrol& control);
+    ARBOR_QML_SUPPORT_NO_EXPORT void pass_settings(IVqUIcontrol& control) const;
     ARBOR_QML_SUPPORT_NO_EXPORT void link_control(CVqList::CVqNode* next, IVqUIcontrol& control,
                                                   vq_uint64& id);
     ARBOR_QML_SUPPORT_NO_EXPORT bool lies_in_picker(const CVqList::CVqNode* anchor, bool after) const;

@@ -53,7 +53,7 @@ int CVqAbstractToolbar::insert_control(const IVqUIcontrol& anchor, IVqUIcontrol&
     return 0;
 }
 
-void CVqAbstractToolbar::pass_settings(IVqUIcontrol& control)
+void CVqAbstractToolbar::pass_settings(IVqUIcontrol& control) const
 {
     int enlarge = m_bEnlargeEnabled ? 1 : 0;
     double zoom = m_dZoom;

@@ -59,6 +59,7 @@ IVqUIcontrol* VqControlAt(const CVqList& list, const CVqList::CVqNode* node)
 
 const vq_wchar* VqControlName(vq_uint64 id)
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): an identifier is the address of a name.
     return reinterpret_cast<const vq_wchar*>(static_cast<std::uintptr_t>(id));
 }
 

@@ -23,8 +23,11 @@ QString literal_of(const QRegularExpression& expression)
     for (qsizetype at = 0; at < pattern.size(); ++at) {
         if (QStringView(u"^$.|?*+()[]{}").contains(pattern[at]))
             return QString();
-        if (pattern[at] == u'\\' && (++at == pattern.size() || is_ascii_letter_or_digit(pattern[at])))
-            return QString();
+        if (pattern[at] == u'\\') {
+            ++at;
+            if (at == pattern.size() || is_ascii_letter_or_digit(pattern[at]))
+                return QString();
+        }
         literal += pattern[at];
     }
     return literal.isValidUtf16() ? literal : QString();

@@ -3,7 +3,7 @@
 #include "arbor_qml_support.h"
 
 /// Registers the types of ArborQmlTypes.h; made by the build.
-void qml_register_types_K7_Arbor();
+void qml_register_types_K7_Arbor(); // NOLINT(misc-use-internal-linkage)
 
 namespace {
 

@@ -93,6 +93,7 @@ qsizetype CVqQuickBitmapPool::CachedBytes() const
 
 QImage CVqQuickBitmapPool::TakeBitmap(vq_uint64 handle)
 {
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): a handle is the address of a picture.
     const std::unique_ptr<QImage> picture(reinterpret_cast<QImage*>(quintptr(handle)));
     return picture ? *picture : QImage();
 }
