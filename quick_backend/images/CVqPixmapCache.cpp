@@ -2,7 +2,7 @@
 
 namespace {
 
-constexpr qsizetype g_limit_at_start = 64 * 1024 * 1024;
+constexpr qsizetype g_limit_at_start = qsizetype(64) * 1024 * 1024;
 
 qsizetype bytes_of(const QPixmap& pixmap)
 {

@@ -15,7 +15,9 @@ CVqQuickImageProvider::CVqQuickImageProvider(std::shared_ptr<const CVqPoolImages
 QImage CVqQuickImageProvider::requestImage(const QString& id, QSize* size, const QSize& requested_size)
 {
     const auto address = VqParseImageAddress(id);
-    const VqPoolImagePtr image = address ? m_images->Find(address->index) : nullptr;
+    if (!address)
+        return {};
+    const VqPoolImagePtr image = m_images->Find(address->index);
     if (!image)
         return {};
     if (size)

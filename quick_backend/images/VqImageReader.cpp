@@ -38,7 +38,7 @@ bool is_too_large(QSize size)
 // A device, which may never end, is no file.
 FileBytes read_file(const QString& path)
 {
-    constexpr qint64 most_bytes = 256 * 1024 * 1024;
+    constexpr qint64 most_bytes = qint64(256) * 1024 * 1024;
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly))
         return {{}, cannot_open};

@@ -20,7 +20,7 @@ int VqCheckRasterSize(const QByteArray& bytes, const QByteArray& format)
 {
     constexpr int no_image = -9;
     constexpr int too_large = -3;
-    constexpr qint64 bits_of_mebibyte = 8 * 1024 * 1024;
+    constexpr qint64 bits_of_mebibyte = qint64(8) * 1024 * 1024;
 
     QBuffer buffer;
     buffer.setData(bytes);
