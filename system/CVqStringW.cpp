@@ -61,7 +61,8 @@ QString CVqStringW::ToQString() const
 
 CVqStringW& CVqStringW::operator=(const vq_wchar* text)
 {
-    return Assign(VqView(text));
+    Assign(VqView(text));
+    return *this;
 }
 
 CVqStringW& CVqStringW::operator=(const string_type& text)
