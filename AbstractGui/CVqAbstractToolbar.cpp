@@ -23,7 +23,9 @@ CVqAbstractToolbar::~CVqAbstractToolbar() = default;
 
 vq_uint64 CVqAbstractToolbar::CreateUI(vq_uint64 parent, EToolbarType type, const vq_wchar* name)
 {
-    CVqAbstractToolbar::DestroyUI(); // or an earlier list would be lost
+    // An earlier list would be lost, but for type InPicker it may be another toolbar's.
+    if (m_pControls && type != EToolbarType::InPicker)
+        CVqAbstractToolbar::DestroyUI();
     m_eType = type;
     if (type == EToolbarType::Hosted || type == EToolbarType::InPicker) {
         m_ui3dBorders = g_all_borders;

@@ -26,8 +26,9 @@
 /// the boundary lie on the toolbar, those from the boundary on lie in the picker; the boundary is the picker
 /// itself when it holds nothing. Walks never show the picker. A main toolbar whose picker could not be made
 /// treats its last control as if it were one, so a back end overrides CreateToolbarPicker(). A toolbar of
-/// type InPicker shares list, map and boundary of a main toolbar, which its back end hands to it, and sees
-/// what lies in the picker.
+/// type InPicker shares list, map and boundary of a main toolbar, which its back end hands to it and keeps up
+/// to date, and sees what lies in the picker. The picker is sent list and map when it is made and the
+/// boundary whenever it moves here; at first the boundary is the last node of the list.
 ///
 /// **Ownership.** The list owns its controls, and DestroyUI() deletes them all; the destructor frees none of
 /// them. Who takes a control out with RemoveControl() owns it. A control must not be deleted while the
@@ -68,7 +69,9 @@ public:
     /// Makes the list and the map, but for type InPicker, and for type Main the picker. Types Hosted and
     /// InPicker take `parent` as their host and get borders on all sides. A null `name` keeps the one that
     /// is there. Gives the window handle, which is 0 here: a back end calls this one first and then sets its
-    /// own. A toolbar that was created before is destroyed first.
+    /// own. A toolbar that was created before is destroyed first; one that becomes InPicker keeps list, map
+    /// and boundary, and from then on counts them as another toolbar's. The picker is created before there is
+    /// a window, so its CreateUI() gets 0.
     virtual vq_uint64 CreateUI(vq_uint64 parent, EToolbarType type, const vq_wchar* name);
 
     /// Destroys and deletes all controls, the picker too, and frees list and map. Of type InPicker only the
@@ -204,8 +207,9 @@ protected:
     virtual bool MoveFromPicker(IVqUIcontrol* picker, int& position, int limit, bool value);
 
     /// Hands `control` to the picker when its far edge `extent` lies beyond `limit`, the toolbar's length,
-    /// which a picker that already holds something takes its share of. True when it was handed over. False in
-    /// type InPicker, without a list, and for null or equal pointers.
+    /// which a picker that already holds something takes its share of. True when it was handed over: then the
+    /// back end moves the boundary, which stays where it is here. False in type InPicker, without a list, and
+    /// for null or equal pointers.
     virtual bool MoveToPicker(IVqUIcontrol* picker, IVqUIcontrol* control, int extent, int limit);
 
     // For the back end, which reads and sets all of them.
@@ -220,9 +224,10 @@ protected:
     bool m_bVisible = false;
     bool m_bDragDropEnabled = false;
     bool m_bEnlargeEnabled = true;
-    double m_dZoom = 1.0; ///< Additional zoom of the controls.
-    CVqSizeBase<int> m_size;
+    double m_dZoom = 1.0;    ///< Additional zoom of the controls.
+    CVqSizeBase<int> m_size; ///< Pixels; not looked at here.
     CVqStringW m_strName;
+    // These three are another toolbar's in type InPicker.
     CVqList* m_pControls = nullptr;          ///< Of IVqUIcontrol*; owned with the controls.
     id_map_type* m_pControlIds = nullptr;    ///< Owned.
     CVqList::CVqNode* m_pBoundary = nullptr; ///< First control that lies in the picker.

@@ -44,14 +44,17 @@ TEST(CVqAbstractToolbar, CreateUiOfAMainToolbarMakesThePicker)
     EXPECT_EQ(bar.GetIdCount(), 0);
 }
 
-TEST(CVqAbstractToolbar, CreateUiOfAMainToolbarStoresNoHostAndNoBorders)
+TEST(CVqAbstractToolbar, CreateUiOfAMainToolbarLeavesHostAndBorders)
 {
     TestToolbar bar;
+    bar.m_hHost = 6;
+    bar.Enable3dBorders(9);
 
     bar.CreateUI(g_parent, EToolbarType::Main, VQ_TEXT("main"));
 
-    EXPECT_EQ(bar.m_hHost, 0u);
-    EXPECT_EQ(bar.m_ui3dBorders, 0u);
+    EXPECT_EQ(bar.m_hHost, 6u);
+    EXPECT_EQ(bar.m_ui3dBorders, 9u);
+    EXPECT_EQ(bar.TakeCalls().front(), "picker.CreateUI 0 = 1");
 }
 
 TEST(CVqAbstractToolbar, PickerThatIsNotCreatedIsLeftOutAndDeleted)
@@ -113,6 +116,21 @@ TEST(CVqAbstractToolbar, CreateUiOfAToolbarInAPickerStoresHostAndBordersAndMakes
     EXPECT_EQ(bar.m_ui3dBorders, 15u);
     EXPECT_EQ(bar.m_pControls, nullptr);
     EXPECT_EQ(bar.m_pControlIds, nullptr);
+}
+
+TEST(CVqAbstractToolbar, CreateUiOfAToolbarInAPickerKeepsTheListThatItWasGivenBefore)
+{
+    TestToolbar main(EToolbarType::Main);
+    main.SetBoundary(main.Add("open"));
+    TestToolbar bar(main);
+
+    bar.CreateUI(g_parent, EToolbarType::InPicker, VQ_TEXT("picked"));
+
+    EXPECT_THAT(main.TakeCalls(), IsEmpty());
+    EXPECT_EQ(main.Order(), "|open picker");
+    EXPECT_EQ(bar.m_pControls, main.m_pControls);
+    EXPECT_EQ(bar.m_pControlIds, main.m_pControlIds);
+    EXPECT_EQ(bar.Walk(), "open");
 }
 
 TEST(CVqAbstractToolbar, CreateUiOfAnyOtherTypeMakesAnEmptyListAlone)
