@@ -125,7 +125,7 @@ public:
 
     /// Adds a button behind the others, or beside the one of `anchor`. Separators have to be tidied
     /// afterwards. A control that the toolbar refuses is not deleted: until the next call that looks
-    /// elsewhere, ControlFromId() gives it for the identifier 0.
+    /// elsewhere, ControlFromId() gives it for the identifier 0, and RemoveButton(0) deletes it.
     virtual vq_uint64 AddButton(const vq_wchar* name);
     virtual vq_uint64 InsertButtonBefore(vq_uint64 anchor, const vq_wchar* name);
     virtual vq_uint64 InsertButtonAfter(vq_uint64 anchor, const vq_wchar* name);
@@ -222,7 +222,8 @@ public:
 
     /// Both put the stored buttons and separators in place of all controls. What was a text button or a
     /// general control comes back as a button. 0, or -9 when a button could not be read in full, which does
-    /// not stop the others. Without a toolbar nothing happens, with 0.
+    /// not stop the others. A button that the toolbar refuses deletes itself. Without a toolbar nothing
+    /// happens, with 0.
     ///
     /// The lightweight form is read from the level under the cursor. A tree with more than 100 controls does
     /// not come back whole: the digits of the index that go before each name are taken for two, so from index

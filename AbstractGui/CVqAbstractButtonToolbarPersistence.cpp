@@ -49,6 +49,13 @@ void save_control(IVqUIcontrol& control, unsigned index, CVqVariant& out)
     record.SetName(name);
 }
 
+// False when the toolbar refuses a button that was read.
+bool add(CVqAbstractToolbar& toolbar, IVqUIcontrol& button)
+{
+    vq_uint64 id = 0;
+    return toolbar.AddControl(button, id) == 0;
+}
+
 template <class Work>
 void each_control(CVqAbstractToolbar* toolbar, Work work)
 {
@@ -121,13 +128,13 @@ int CVqAbstractButtonToolbar::load_button(CVqLiteVariantR& in, const vq_wchar* n
     if (!button)
         return 0;
     const bool is_read = button->Load(in) == 0;
-    vq_uint64 id = 0;
-    m_pToolbar->AddControl(*button, id);
-    if (is_read)
-        return 0;
+    const bool is_added = add(*m_pToolbar, *button);
     CVqStringW text(name);
-    button->Set(vq_control_name, 0, &text);
-    return g_failed;
+    if (!is_read)
+        button->Set(vq_control_name, 0, &text);
+    if (!is_added)
+        button->MarkToDeleteItself(); // nobody else knows of it
+    return is_read ? 0 : g_failed;
 }
 
 int CVqAbstractButtonToolbar::Load(CVqVariant& in, CVqStringW* name)
@@ -160,7 +167,7 @@ int CVqAbstractButtonToolbar::load_entry(CVqVariant& record)
         return 0;
     record.SetName(name);
     const bool is_read = button->Load(record) == 0;
-    vq_uint64 id = 0;
-    m_pToolbar->AddControl(*button, id);
+    if (!add(*m_pToolbar, *button))
+        button->MarkToDeleteItself(); // nobody else knows of it
     return is_read ? 0 : g_failed;
 }

@@ -200,6 +200,22 @@ TEST_P(CVqAbstractButtonToolbarAdder, ControlThatTheToolbarRefusesIsRememberedUn
         m_control.reset(refused);
 }
 
+TEST_P(CVqAbstractButtonToolbarAdder, ControlThatTheToolbarRefusesGoesWhenZeroIsRemoved)
+{
+    m_bar.AnswerHandles(0);
+    m_bar.Bar().m_hWindow = 9;
+    RecordingControl* control = TakesControl() ? m_bar.Bar().Make("general") : nullptr;
+    if (control)
+        control->AnswerHandle(0);
+    GetParam().add(m_bar, m_anchor, control, VQ_TEXT("new"));
+
+    EXPECT_EQ(m_bar.RemoveButton(0), 0);
+
+    EXPECT_EQ(m_bar.TakeCalls().back(), "new.Delete");
+    EXPECT_EQ(m_bar.ControlFromId(0), nullptr);
+    EXPECT_EQ(m_bar.Bar().Order(), "a b c |picker");
+}
+
 TEST_P(CVqAbstractButtonToolbarInserter, UnknownAnchorAddsNothingAndAsksNoFactory)
 {
     m_control.reset(m_bar.Bar().Make("general"));

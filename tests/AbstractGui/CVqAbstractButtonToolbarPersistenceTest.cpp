@@ -197,6 +197,20 @@ TYPED_TEST(CVqAbstractButtonToolbarPersistence, FactoriesThatGiveNullAreTolerate
     EXPECT_EQ(loaded.Bar().Order(), "|picker");
 }
 
+TYPED_TEST(CVqAbstractButtonToolbarPersistence, ButtonThatTheToolbarRefusesDeletesItself)
+{
+    this->m_bar.AddButton(VQ_TEXT("a"));
+    save_toolbar(this->m_bar, this->m_stored);
+    TestButtonToolbar loaded;
+    loaded.Bar().m_hWindow = 9;
+    loaded.AnswerHandles(0);
+
+    EXPECT_EQ(load_toolbar(loaded, this->m_stored), 0);
+
+    EXPECT_EQ(loaded.Bar().Order(), "|picker");
+    EXPECT_EQ(loaded.TakeCalls().back(), "a.Delete");
+}
+
 TYPED_TEST(CVqAbstractButtonToolbarPersistence, ControlsInThePickerAreSavedButNotThePicker)
 {
     this->fill(this->m_bar);
