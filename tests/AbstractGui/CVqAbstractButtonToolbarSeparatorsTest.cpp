@@ -1,3 +1,4 @@
+#include "AbstractGui/VqControlCodes.h"
 #include "AbstractGui/VqHiddenToolbarButtons.h"
 #include "tests/support/TestButtonToolbar.h"
 
@@ -7,6 +8,7 @@
 #include <cctype>
 #include <string>
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 
 namespace {
@@ -73,6 +75,34 @@ std::ostream& operator<<(std::ostream& out, const Tidying& row)
 {
     return out << row.before;
 }
+
+/// A separator that does not know code 33, or one that cannot be shown.
+class OddSeparator final : public RecordingControl
+{
+public:
+    OddSeparator(TestButtonToolbar& bar, bool can_be_shown)
+        : RecordingControl("odd", bar.Bar().m_calls), m_can_be_shown(can_be_shown)
+    {
+        AnswerSeparator(1);
+        Hidden();
+    }
+
+    int Get(unsigned code, vq_int64 index, void* data) override
+    {
+        if (code != vq_control_stays_last)
+            return RecordingControl::Get(code, index, data);
+        Record(".Get 33");
+        return -9;
+    }
+
+    bool GetControlVisibility() override
+    {
+        return m_can_be_shown && RecordingControl::GetControlVisibility();
+    }
+
+private:
+    bool m_can_be_shown;
+};
 
 class CVqAbstractButtonToolbarTidying : public testing::TestWithParam<Tidying>
 { };
@@ -192,6 +222,50 @@ TEST(CVqAbstractButtonToolbarSeparators, SeparatorWhoseAnswerFailsIsOneAllTheSam
     bar.Bar().UpdateSeparators(false);
 
     EXPECT_EQ(bar.Letters(), "BSB");
+}
+
+TEST(CVqAbstractButtonToolbarSeparators, EachIsToldWhatItShallBeWhetherThatIsNewOrNot)
+{
+    DrawnBar bar("BSsSBs");
+
+    bar.Bar().UpdateSeparators(false);
+
+    EXPECT_EQ(bar.Letters(), "BSssBs");
+    EXPECT_THAT(bar.Bar().TakeCalls(),
+                ElementsAre("separator.SetControlVisibility 1", "separator.SetControlVisibility 0",
+                            "separator.SetControlVisibility 0", "separator.SetControlVisibility 1",
+                            "separator.SetControlVisibility 0"));
+}
+
+TEST(CVqAbstractButtonToolbarSeparators, OneThatDoesNotAnswerIsHiddenAtTheEndAndIsAskedOnlyWhenItWasHidden)
+{
+    TestButtonToolbar bar;
+    bar.AddButton(VQ_TEXT("a"));
+    bar.AddGeneralControl(new OddSeparator(bar, true), VQ_TEXT("odd"));
+    bar.Settle();
+
+    bar.UpdateSeparators(false);
+    EXPECT_THAT(bar.TakeCalls(),
+                ElementsAre("odd.Get 33", "odd.SetControlVisibility 1", "odd.SetControlVisibility 0"));
+
+    bar.SetButtonVisibility(bar.FindButton(VQ_TEXT("odd")), true);
+    bar.Settle();
+    bar.UpdateSeparators(false);
+    EXPECT_THAT(bar.TakeCalls(), ElementsAre("odd.SetControlVisibility 1"));
+}
+
+TEST(CVqAbstractButtonToolbarSeparators, OneThatCannotBeShownLeavesItsPlaceToTheNext)
+{
+    TestButtonToolbar bar;
+    bar.AddButton(VQ_TEXT("a"));
+    bar.AddGeneralControl(new OddSeparator(bar, false), VQ_TEXT("odd"));
+    const vq_uint64 next = bar.AppendSeparator(nullptr);
+    bar.AddButton(VQ_TEXT("b"));
+    bar.Control(next).Hidden();
+
+    bar.UpdateSeparators(false);
+
+    EXPECT_TRUE(bar.GetButtonVisibility(next));
 }
 
 TEST(CVqAbstractButtonToolbarSeparators, NodesWithoutAControlAreSkipped)

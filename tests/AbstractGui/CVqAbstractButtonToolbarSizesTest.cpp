@@ -1,9 +1,11 @@
+#include "tests/AbstractGui/RefusingControl.h"
 #include "tests/support/TestButtonToolbar.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <utility>
+#include <vector>
 
 using testing::ElementsAre;
 
@@ -18,12 +20,14 @@ public:
     int GetControlSize(CVqSizeBase<int>& size, int value) override
     {
         RecordingControl::GetControlSize(size, value);
+        m_values.push_back(value);
         if (size.m_iWidth == 0)
             size = m_wanted;
         return 0;
     }
 
     CVqSizeBase<int> m_wanted;
+    std::vector<int> m_values; ///< With which its size was asked for.
 };
 
 struct OptimalSize
@@ -54,7 +58,7 @@ TEST_P(CVqAbstractButtonToolbarOptimalSize, TakesTheWantedWidthAndAHeightByTheOr
     EXPECT_EQ(bar.SetButtonOptimalSize(id), 0);
 
     EXPECT_THAT(bar.TakeCalls(), ElementsAre("a.SetControlSize 0x0", row.last_line));
-    EXPECT_EQ(control->SizeValue(), -1);
+    EXPECT_THAT(control->m_values, ElementsAre(-1, -1));
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -94,6 +98,17 @@ TEST(CVqAbstractButtonToolbarSizes, SizeIsSetAndRead)
     EXPECT_EQ(size, (CVqSizeBase<int>{30, 40}));
     EXPECT_EQ(bar.Control(id).SizeValue(), 5);
     EXPECT_THAT(bar.TakeCalls(), ElementsAre("a.SetControlSize 30x40"));
+}
+
+TEST(CVqAbstractButtonToolbarSizes, ControlsResultIsGivenButNotThatOfTheOptimalSize)
+{
+    TestButtonToolbar bar;
+    const vq_uint64 id = bar.AddGeneralControl(new RefusingControl("a", bar.Bar().m_calls), VQ_TEXT("a"));
+    CVqSizeBase<int> size;
+
+    EXPECT_EQ(bar.SetButtonSize(id, 30, 40), RefusingControl::Result);
+    EXPECT_EQ(bar.GetButtonSize(id, size, -1), RefusingControl::Result);
+    EXPECT_EQ(bar.SetButtonOptimalSize(id), 0);
 }
 
 TEST(CVqAbstractButtonToolbarSizes, UnknownButtonAndMissingToolbarFail)

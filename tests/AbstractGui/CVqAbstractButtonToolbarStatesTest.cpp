@@ -1,7 +1,10 @@
+#include "tests/AbstractGui/RefusingControl.h"
 #include "tests/support/TestButtonToolbar.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <string>
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -164,9 +167,85 @@ TEST(CVqAbstractButtonToolbarStates, TextAlignIsTheControls)
 {
     Button button;
 
-    EXPECT_EQ(button.bar.SetButtonTextAlign(button.id, 16), button.bar.Control(button.id).SetTextAlign(16));
+    EXPECT_EQ(button.bar.SetButtonTextAlign(button.id, 16), 0);
 
-    EXPECT_THAT(button.bar.TakeCalls(), ElementsAre("a.SetTextAlign 16", "a.SetTextAlign 16"));
+    EXPECT_THAT(button.bar.TakeCalls(), ElementsAre("a.SetTextAlign 16"));
+}
+
+TEST(CVqAbstractButtonToolbarStates, ControlsResultIsGivenButNotWhenTextsOrImagesAreSet)
+{
+    TestButtonToolbar bar;
+    const vq_uint64 id = bar.AddGeneralControl(new RefusingControl("x", bar.Bar().m_calls), VQ_TEXT("x"));
+    CVqStringW text;
+    unsigned count = 0;
+
+    EXPECT_EQ(bar.SetButtonTextAlign(id, 16), RefusingControl::Result);
+    EXPECT_EQ(bar.SetButtonName(id, VQ_TEXT("y")), RefusingControl::Result);
+    EXPECT_EQ(bar.GetButtonName(id, text), RefusingControl::Result);
+    EXPECT_EQ(bar.SetStatesCountOnButton(id, 2), RefusingControl::Result);
+    EXPECT_EQ(bar.GetStatesCountOnButton(id, count), RefusingControl::Result);
+    EXPECT_EQ(bar.GetTextOnButton(id, 0, text), RefusingControl::Result);
+    EXPECT_EQ(bar.SetTextsOnButton(id, 0, nullptr, nullptr, nullptr), 0);
+    EXPECT_EQ(bar.SetBitmapOnButton(id, 0, 7u), 0);
+}
+
+// A concrete class that overrides the codes sees what goes through them ----------------------------------
+
+namespace {
+
+/// Writes its codes down instead of sending them.
+class CodeNotes final : public TestButtonToolbar
+{
+public:
+    int Set(vq_uint64, unsigned code, vq_int64 index, void*) override { return Note("Set", code, index); }
+    int Get(vq_uint64, unsigned code, vq_int64 index, void*) override { return Note("Get", code, index); }
+
+    Lines m_notes;
+
+private:
+    int Note(const std::string& operation, unsigned code, vq_int64 index)
+    {
+        m_notes.push_back(operation + " " + std::to_string(code) + " " + std::to_string(index));
+        return 4;
+    }
+};
+
+}
+
+TEST(CVqAbstractButtonToolbarOwnCodes, NameCountTextsAndImageGoThroughThem)
+{
+    CodeNotes bar;
+    CVqStringW text;
+    unsigned count = 0;
+
+    EXPECT_EQ(bar.GetButtonName(5, text), 4);
+    EXPECT_EQ(bar.SetButtonName(5, VQ_TEXT("a")), 4);
+    EXPECT_EQ(bar.SetStatesCountOnButton(5, 2), 4);
+    EXPECT_EQ(bar.GetStatesCountOnButton(5, count), 4);
+    EXPECT_EQ(bar.GetTextOnButton(5, 1, text), 4);
+    EXPECT_EQ(bar.GetTooltipOnButton(5, 1, text), 4);
+    EXPECT_EQ(bar.GetCommandOnButton(5, 1, text), 4);
+    EXPECT_EQ(bar.SetBitmapOnButton(5, 1, 7u), 0);
+    EXPECT_EQ(bar.GetBitmap(5, 1), -1);
+
+    EXPECT_THAT(bar.m_notes,
+                ElementsAre("Get 262 0", "Set 262 0", "Set 4 0", "Get 4 0", "Get 258 1", "Get 259 1",
+                            "Get 257 1", "Set 260 1", "Get 260 1"));
+}
+
+TEST(CVqAbstractButtonToolbarOwnCodes, CheckAndTextsThatAreSetGoPastThem)
+{
+    CodeNotes bar;
+    const vq_uint64 id = bar.AddButton(VQ_TEXT("a"));
+    bar.Settle();
+
+    bar.SetCheck(id, true);
+    bar.SetTextsOnButton(id, 0, nullptr, nullptr, nullptr);
+
+    EXPECT_TRUE(bar.GetCheck(id));
+    EXPECT_FALSE(bar.IsIDSeparator(id));
+    EXPECT_THAT(bar.m_notes, IsEmpty());
+    EXPECT_EQ(bar.TakeCalls().size(), 4u);
 }
 
 TEST(CVqAbstractButtonToolbarStates, TextAlignOfAnUnknownButtonIsNoErrorButAMissingToolbarIs)

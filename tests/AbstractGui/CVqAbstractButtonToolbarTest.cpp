@@ -146,12 +146,13 @@ TEST(CVqAbstractButtonToolbarCodes, AllThreeReachTheControlAndGiveItsResult)
     CVqStringW text;
 
     EXPECT_EQ(bar.Set(id, vq_control_value, 0, &value), 0);
+    EXPECT_EQ(bar.Set(id, vq_control_text, 3, &text), 0);
     EXPECT_EQ(bar.Get(id, vq_control_value, 0, &read), 0);
     EXPECT_EQ(bar.Get(id, vq_control_text, 3, &text), -17);
     EXPECT_EQ(bar.Command(id, vq_control_delete_state, 3, nullptr), -9);
 
     EXPECT_EQ(read, 7);
-    EXPECT_THAT(bar.TakeCalls(), ElementsAre("a.Set 16 7", "a.Command 3 state 3"));
+    EXPECT_THAT(bar.TakeCalls(), ElementsAre("a.Set 16 7", "a.Set 258 state 3 \"\"", "a.Command 3 state 3"));
 }
 
 TEST(CVqAbstractButtonToolbarCodes, UnknownIdentifierAndMissingToolbarFail)

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <string>
+
 // What the lightweight form has of its own.
 
 namespace {
@@ -174,6 +176,23 @@ TEST_F(CVqAbstractControlLite, NameIsReadFromItsField)
     load_control<LiteForm>(m_control, {{VQ_TEXT("name"), VQ_TEXT("other")}});
 
     EXPECT_EQ(TestMenu::Plain(m_control.m_strName), "other");
+}
+
+TEST_F(CVqAbstractControlLite, NameIsReadBeforeTheVisibilityIsToldAndFlagAndTypeAfterwards)
+{
+    std::string seen;
+    QObject::connect(&m_control, &CVqAbstractControl::stateChanged, &m_control, [&] {
+        seen = TestMenu::Plain(m_control.m_strName) + " " + std::to_string(m_control.m_bTranslateTooltip)
+            + " " + std::to_string(m_control.type());
+    });
+
+    load_control<LiteForm>(m_control,
+                           {{VQ_TEXT("name"), VQ_TEXT("other")},
+                            {VQ_TEXT("m_Visibility"), false},
+                            {VQ_TEXT("TranslateTooltip"), 1},
+                            {VQ_TEXT("type"), 5}});
+
+    EXPECT_EQ(seen, "other 0 3");
 }
 
 TEST_F(CVqAbstractControlLite, MissingNameIsEmpty)

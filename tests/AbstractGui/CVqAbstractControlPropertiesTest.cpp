@@ -185,6 +185,16 @@ TEST_F(CVqAbstractControlProperties, SettersReachAStateAboveTheCount)
     EXPECT_THAT(m_control.TakeSignals(), ElementsAre("bitmap", "label"));
 }
 
+TEST_F(CVqAbstractControlProperties, StateThatFellOutOfUseCanStillBeShown)
+{
+    m_control.Command(vq_control_delete_state, 0, nullptr);
+
+    m_control.setState(2);
+
+    EXPECT_EQ(m_control.bitmap(), 12);
+    EXPECT_EQ(m_control.label(), u"text2"_s);
+}
+
 TEST_F(CVqAbstractControlProperties, WithoutStatesTheFormerOneIsShown)
 {
     m_control.setState(2);

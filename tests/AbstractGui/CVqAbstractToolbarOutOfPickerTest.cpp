@@ -52,6 +52,7 @@ TEST_P(CVqAbstractToolbarMoveFromPicker, BringsBackWhatFits)
             bar.SetBoundary(control);
     }
     names.push_back("picker");
+    bar.m_bLayoutDirty = false;
     int position = 50;
 
     EXPECT_TRUE(bar.MoveFromPicker(&bar.ThePicker(), position, row.limit, false));
@@ -65,6 +66,7 @@ TEST_P(CVqAbstractToolbarMoveFromPicker, BringsBackWhatFits)
     const auto* first = static_cast<IVqUIcontrol*>(bar.m_pControls->GetData(bar.m_pBoundary));
     EXPECT_EQ(TestToolbar::NameOf(first), names.at(static_cast<std::size_t>(row.moved)));
     EXPECT_EQ(bar.ThePicker().SizeValue(), -1);
+    EXPECT_FALSE(bar.m_bLayoutDirty);
 }
 
 INSTANTIATE_TEST_SUITE_P(Empty, CVqAbstractToolbarMoveFromPicker,
@@ -188,6 +190,17 @@ TEST(CVqAbstractToolbarOutOfPicker, LastArgumentDoesNotMatter)
 
         EXPECT_EQ(position, 60);
     }
+}
+
+TEST(CVqAbstractToolbarOutOfPicker, HiddenPickerIsHiddenAgain)
+{
+    TestToolbar bar(EToolbarType::Main);
+    bar.ThePicker().Hidden();
+    int position = 50;
+
+    EXPECT_TRUE(bar.MoveFromPicker(&bar.ThePicker(), position, 100, true));
+
+    EXPECT_THAT(bar.TakeCalls(), ElementsAre("picker.SetControlVisibility 0"));
 }
 
 TEST(CVqAbstractToolbarOutOfPicker, NullPickerIsRefused)

@@ -30,6 +30,7 @@ TEST_P(CVqAbstractToolbarMoveToPicker, HandsOverWhatEndsBehindTheRoom)
     set_length(bar.ThePicker(), row.orientation, 20);
     if (row.picker_in_use)
         bar.SetBoundary(b);
+    bar.m_bLayoutDirty = false;
     const std::string order = bar.Order();
 
     EXPECT_EQ(bar.MoveToPicker(&bar.ThePicker(), &a, row.extent, 100), row.moved);
@@ -38,6 +39,7 @@ TEST_P(CVqAbstractToolbarMoveToPicker, HandsOverWhatEndsBehindTheRoom)
     EXPECT_EQ(lines, row.moved ? TestToolbar::Lines{"picker.Command 2308 a"} : TestToolbar::Lines{});
     EXPECT_EQ(bar.Order(), order);
     EXPECT_EQ(bar.ThePicker().SizeValue(), row.picker_in_use ? -1 : 0);
+    EXPECT_FALSE(bar.m_bLayoutDirty);
 }
 
 INSTANTIATE_TEST_SUITE_P(

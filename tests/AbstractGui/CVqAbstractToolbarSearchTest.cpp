@@ -1,4 +1,5 @@
 #include "AbstractGui/VqControlCodes.h"
+#include "tests/AbstractGui/RefusingControl.h"
 #include "tests/AbstractGui/WalkedBars.h"
 
 #include <gmock/gmock.h>
@@ -54,6 +55,25 @@ TEST(CVqAbstractToolbarById, EnablingReachesTheControl)
 
     EXPECT_FALSE(bar.bar.IsControlEnabled(id));
     EXPECT_FALSE(bar.b.IsEnabled());
+}
+
+TEST(CVqAbstractToolbarById, IndexDataAndResultArePassedOn)
+{
+    TestToolbar bar(EToolbarType::Fixed);
+    vq_uint64 id = 0;
+    bar.AddControl(*new RefusingControl("x", bar.m_calls), id);
+    bar.TakeCalls();
+    CVqStringW text(VQ_TEXT("Open"));
+    int value = 42;
+
+    EXPECT_EQ(bar.SetControlState(id, vq_control_text, 3, &text), RefusingControl::Result);
+    EXPECT_EQ(bar.GetControlState(id, vq_control_value, 0, &value), RefusingControl::Result);
+    EXPECT_EQ(bar.ControlCommand(id, vq_control_delete_state, 7, nullptr), RefusingControl::Result);
+    EXPECT_EQ(bar.EnableControl(id, false), RefusingControl::Result);
+
+    EXPECT_EQ(value, 0);
+    EXPECT_THAT(bar.TakeCalls(),
+                ElementsAre("x.Set 258 state 3 \"Open\"", "x.Command 3 state 7", "x.Enable 0"));
 }
 
 TEST(CVqAbstractToolbarById, UnknownIdentifiersFail)

@@ -182,6 +182,7 @@ TEST_P(CVqAbstractToolbarTypeChange, StoresTheTypeAndSetsTheDragMode)
 
     EXPECT_EQ(bar.m_eType, row.type);
     EXPECT_EQ(bar.m_uiDragMode, row.mode_after);
+    EXPECT_EQ(bar.IsToolbarDragDropEnabled(), row.drag_drop);
 }
 
 INSTANTIATE_TEST_SUITE_P(
