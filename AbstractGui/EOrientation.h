@@ -2,8 +2,8 @@
 
 #include "system/VqTypes.h"
 
-/// Along which axis a toolbar or control lies. What is not Horizontal counts as vertical where sizes are
-/// reckoned with.
+/// Along which axis a toolbar or control lies. To a toolbar everything but Horizontal is vertical; a control
+/// has a size of its own in Vertical alone.
 enum class EOrientation : vq_int32
 {
     Horizontal = 0,

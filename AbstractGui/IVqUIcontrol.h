@@ -26,7 +26,8 @@ public:
     /// Takes the control to which something happened, and what it was.
     using handler_type = bool (*)(IVqUIcontrol* control, SVqUiEvent& event);
 
-    /// Paints a control in place of its own painting; `device` is a number that the widget layer gives.
+    /// Paints a control in place of its own painting, in `rect`, which counts in pixels. `device` and the
+    /// result are numbers between callback and widget layer.
     using paint_callback_type
         = int (*)(vq_uint64 device, CVqRectBase<int> rect, IVqUIcontrol* control, void* data);
 
@@ -39,7 +40,8 @@ public:
     virtual handler_type SetHandler(handler_type handler) = 0;
     virtual handler_type GetHandler() = 0;
 
-    /// Makes the widget as a child of the native window `parent`. Its handle, or 0 when there is none.
+    /// Makes the widget within the one of handle `parent`, or within none for 0. Gives its handle, or 0 when
+    /// there is none. What a handle is, is the widget layer's affair.
     virtual vq_uint64 CreateUI(vq_uint64 parent) = 0;
 
     /// Ends the widget's life; the control stays.
@@ -48,7 +50,8 @@ public:
     /// Deletes the control, at once or as soon as it may be.
     virtual void MarkToDeleteItself() = 0;
 
-    /// Reads the fields of the level in which `in` stands.
+    /// Reads the fields of the level in which `in` stands, or the children of `in` and its name. -9 when
+    /// something is missing; the rest is read all the same.
     virtual int Load(CVqLiteVariantR& in) = 0;
     virtual int Load(const CVqVariant& in) = 0;
 
@@ -59,11 +62,13 @@ public:
     virtual int Save(CVqVariant& out) = 0;
 
     /// Reads, sets or does what the code says: see VqControlCodes.h. `data` points to a value of the type
-    /// that the code tells, which is copied. -9 for a code that the control doesn't know.
+    /// that the code tells, which is copied; the codes of the picker pass the pointer itself. `index` is the
+    /// number of a state, where the code tells of one. -9 for a code that the control doesn't know.
     virtual int Get(unsigned code, vq_int64 index, void* data) = 0;
     virtual int Set(unsigned code, vq_int64 index, void* data) = 0;
     virtual int Command(unsigned code, vq_int64 index, void* data) = 0;
 
+    /// A disabled control takes no input.
     virtual int Enable(bool enable) = 0;
     virtual bool IsEnabled() = 0;
 
@@ -83,13 +88,18 @@ public:
     /// Writes the size that the control wants to `size`, or leaves it when it wants none. `value` is for
     /// concrete controls; callers without a wish pass -1.
     virtual int GetControlSize(CVqSizeBase<int>& size, int value) = 0;
+
+    /// A side of 0 leaves the size to the control again.
     virtual int SetControlSize(const CVqSizeBase<int>& size) = 0;
+
+    /// Where the control lies on its toolbar.
     virtual int SetControlPos(const CVqRectBase<int>& rect) = 0;
 
+    /// A hidden control takes no room on its toolbar.
     virtual void SetControlVisibility(bool visible) = 0;
     virtual bool GetControlVisibility() = 0;
 
-    /// The widget's native handle, or 0.
+    /// What CreateUI() gave, or 0 without a widget.
     virtual vq_uint64 GetWindowHandle() = 0;
 
     /// The tooltip of all states at once, and that of the first state.
