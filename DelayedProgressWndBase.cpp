@@ -1,9 +1,9 @@
 #include "DelayedProgressWndBase.h"
 
+#include "system/VqNumber.h"
 #include "system/VqTranslation.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace QmlSupport {
 
@@ -17,13 +17,6 @@ constexpr int g_show_percent = 4;
 constexpr int g_label_set = 8;
 constexpr int g_no_events = 16;
 constexpr int g_percent_decimals = 32;
-
-/// The low 32 bits of `time` without its fraction; 0 for what is no finite number.
-unsigned int low_bits(double time)
-{
-    const double rest = std::fmod(time, 0x1p32);
-    return std::isnan(rest) ? 0 : static_cast<unsigned int>(static_cast<vq_int64>(rest));
-}
 
 void append_percent(CVqStringW& label, unsigned int position, unsigned int range)
 {
@@ -147,7 +140,7 @@ void CVqDelayedProgressWndBase::SetLabel(const CVqStringW& label)
 
 void CVqDelayedProgressWndBase::ResetRemaining()
 {
-    m_iStartTime = static_cast<int>(low_bits(currentTimeMs()));
+    m_iStartTime = static_cast<int>(VqLowBits(currentTimeMs()));
 }
 
 bool CVqDelayedProgressWndBase::CheckCanceled()
@@ -200,7 +193,7 @@ void CVqDelayedProgressWndBase::UpdateLabel(unsigned int pos)
     else if (m_bShowPercent)
         append_percent(label, m_uiPos, m_uiRange);
     if (m_bShowRemaining && pos >= 2) {
-        const unsigned int elapsed = low_bits(currentTimeMs()) - static_cast<unsigned int>(m_iStartTime);
+        const unsigned int elapsed = VqLowBits(currentTimeMs()) - static_cast<unsigned int>(m_iStartTime);
         if (!label.IsEmpty())
             label += VQ_TEXT(" - ");
         append_remaining(label, elapsed * (m_uiRange - pos) / pos);

@@ -1,5 +1,7 @@
 #include "qml/CVqGuiSupport.h"
 
+#include "system/VqNumber.h"
+
 #include <QLocale>
 
 #include <algorithm>
@@ -9,13 +11,6 @@
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// The low 32 bits of `number` without its fraction; 0 for what is no finite number.
-vq_uint32 low_bits(double number)
-{
-    const double rest = std::fmod(number, 0x1p32);
-    return std::isnan(rest) ? 0 : static_cast<vq_uint32>(static_cast<vq_int64>(rest));
-}
 
 constexpr vq_uint8 byte_at(vq_uint32 number, int shift)
 {
@@ -72,23 +67,23 @@ int CVqGuiSupport::colorRef_fromColor(const QColor& color) const
 
 QColor CVqGuiSupport::colorRef_toColor(double colorRef) const
 {
-    const vq_uint32 number = low_bits(colorRef);
+    const vq_uint32 number = VqLowBits(colorRef);
     return QColor(byte_at(number, 0), byte_at(number, 8), byte_at(number, 16));
 }
 
 int CVqGuiSupport::colorRef_toRgb(double colorRef) const
 {
-    return with_red_and_blue_swapped(low_bits(colorRef));
+    return with_red_and_blue_swapped(VqLowBits(colorRef));
 }
 
 int CVqGuiSupport::colorRef_fromRgb(double rgb) const
 {
-    return with_red_and_blue_swapped(low_bits(rgb));
+    return with_red_and_blue_swapped(VqLowBits(rgb));
 }
 
 int CVqGuiSupport::colorRef_complement(double colorRef) const
 {
-    return static_cast<int>(~low_bits(colorRef) & 0xFFFFFF);
+    return static_cast<int>(~VqLowBits(colorRef) & 0xFFFFFF);
 }
 
 double CVqGuiSupport::exponentialSlider_valueToPos(double normValue, double exp) const
