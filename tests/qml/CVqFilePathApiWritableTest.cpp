@@ -279,12 +279,14 @@ TEST_F(CVqFilePathApiWritable, LevelsGoWhereTheFileCannotBeOpened)
 {
     const std::vector<std::string> before = Tree();
 
-    const std::string answer = in_child([this] {
+    // The first answer also leaves a sanitizer nothing to look into that it would open a pipe for.
+    const std::string answers = in_child([this] {
+        const std::string with_files = yes_or_no(CVqFilePathApi::isWritable(Path(u"new/b/c"_s)));
         const rlimit no_files = {0, 0};
         setrlimit(RLIMIT_NOFILE, &no_files);
-        return yes_or_no(CVqFilePathApi::isWritable(Path(u"new/b/c"_s)));
+        return with_files + yes_or_no(CVqFilePathApi::isWritable(Path(u"new/b/c"_s)));
     });
 
-    EXPECT_EQ(answer, "no");
+    EXPECT_EQ(answers, "yesno");
     EXPECT_EQ(Tree(), before);
 }
