@@ -41,12 +41,13 @@ Item {
 
         // Squares of two greys show through what is not opaque.
         Image {
+            objectName: "squares"
             anchors { fill: parent; margins: 4 }
             fillMode: Image.Tile
             horizontalAlignment: Image.AlignLeft
             verticalAlignment: Image.AlignTop
             visible: card.color.a < 1
-            source: "data:image/png;base64,iVBORw0KGgoAAAANSUhEUgAAABAAAAAQAQMAAAAlPW0iAAAABlBMVEX////Mz9QAq2EWAAAAEElEQVR42mNg+M+AFeEQBgB+vw/xeaW7jwAAAABJRU5ErkJggg=="
+            source: "squares.png"
         }
         Rectangle {
             objectName: "swatch"

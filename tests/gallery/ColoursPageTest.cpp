@@ -1,6 +1,9 @@
 #include "tests/gallery/PageFixture.h"
 
 #include <QColor>
+#include <QQmlComponent>
+
+#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -196,4 +199,18 @@ TEST_F(ColoursPage, CardsAreButtonsForScreenReaders)
     ASSERT_TRUE(card);
     EXPECT_EQ(card->role(), QAccessible::Button);
     EXPECT_TRUE(card->text(QAccessible::Name).startsWith(u"Pastel"_s));
+}
+
+// Not loaded by a thread, which a page that closes at once would leave in the middle of its work.
+TEST(ColourCard, SquaresBehindAColourAreThereWithTheCard)
+{
+    RegisterQmlTypes();
+    const Gallery::Session session{RealMenu()};
+    QQmlEngine engine;
+    QQmlComponent component(&engine, Gallery::GalleryUrl(u"ColourCard.qml"_s));
+
+    const std::unique_ptr<QObject> card(component.create());
+
+    ASSERT_TRUE(card) << component.errorString().toStdString();
+    EXPECT_EQ(card->findChild<QObject*>(u"squares"_s)->property("sourceSize").toSize(), QSize(16, 16));
 }

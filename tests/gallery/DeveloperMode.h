@@ -21,7 +21,7 @@ public:
     DeveloperMode& operator=(const DeveloperMode&) = delete;
 };
 
-/// A copy of all the gallery's QML files in a folder of its own, gone with the test.
+/// A copy of all the gallery's QML files and their pictures in a folder of its own, gone with the test.
 class QmlCopy
 {
 public:
@@ -30,7 +30,8 @@ public:
         EXPECT_TRUE(QDir().mkpath(m_folder.filePath(QStringLiteral("pages"))));
         for (const QString& below : {QString(), QStringLiteral("pages/")})
             for (const QString& name :
-                 QDir(Compiled(below)).entryList({QStringLiteral("*.qml")}, QDir::Files))
+                 QDir(Compiled(below))
+                     .entryList({QStringLiteral("*.qml"), QStringLiteral("*.png")}, QDir::Files))
                 EXPECT_TRUE(QFile::copy(Compiled(below + name), Path(below + name)));
         for (const QString& below : {QString(), QStringLiteral("pages/")})
             for (const QFileInfo& file : QDir(Path(below)).entryInfoList(QDir::Files))
