@@ -65,15 +65,7 @@ int CVqQuickMenu::CallCmdHandler(vq_uint32 id)
 bool CVqQuickMenu::CanFire(vq_uint32 id)
 {
     const CVqMenuItem* item = Find(id);
-    if (!item)
-        return true;
-    if (item == m_pRoot || item->removed())
-        return false;
-    for (; item && item != m_pRoot; item = item->parentItem()) {
-        if (item->deleted() || VqIsGrayed(*item))
-            return false;
-    }
-    return true;
+    return !item || VqCanFire(*item);
 }
 
 bool CVqQuickMenu::Dispatch(vq_uint32 id)

@@ -36,6 +36,13 @@ void CVqQuickMenuItem::setSubmenu(CVqQuickMenuRows* rows)
     Tell(*this, changed, {Rows::SubmenuRole});
 }
 
+void CVqQuickMenuItem::setCommand(const vq_wchar* command)
+{
+    const bool changed = rows() && !VqEquals(this->command(), command);
+    CVqMenuItem::setCommand(command);
+    Tell(*this, changed, {Rows::CommandRole});
+}
+
 void CVqQuickMenuItem::setId(vq_uint32 id)
 {
     const bool changed = id != this->id();

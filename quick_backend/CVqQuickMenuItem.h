@@ -8,7 +8,8 @@ class CVqQuickMenuRows;
 /// A menu item that tells its row when a field changes for which the menu makes no call to its back end.
 ///
 /// Separators are tidied and commands hidden by setting a flag and nothing more; images, colours and widths
-/// change in the same silence. Texts and status are not told from here: the menu announces them itself.
+/// change in the same silence. Menu strings and status are not told from here: the menu announces them
+/// itself.
 ///
 /// Made by SVqQuickManipulators. At most one row shows an item; the row's list keeps the link and undoes it
 /// before either of them goes. Not copyable, since a copy has no row.
@@ -33,6 +34,7 @@ public:
     CVqQuickMenuRows* submenu() const { return m_pSubmenu; }
     void setSubmenu(CVqQuickMenuRows* rows);
 
+    void setCommand(const vq_wchar* command) override;
     void setId(vq_uint32 id) override;
     void setLineWidth(vq_uint32 width) override;
     void setCol1(vq_uint32 colour) override;

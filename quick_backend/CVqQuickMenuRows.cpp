@@ -82,6 +82,7 @@ QHash<int, QByteArray> CVqQuickMenuRows::roleNames() const
         {ImageIndexRole, "imageIndex"},
         {SubmenuRole, "submenu"},
         {AccessibleNameRole, "accessibleName"},
+        {CommandRole, "command"},
     };
 }
 

@@ -62,6 +62,7 @@ public:
         ImageIndexRole,     ///< Index in the image pool, or -1.
         SubmenuRole,        ///< The QuickMenuRows of a popup, or null.
         AccessibleNameRole, ///< The label; for an item without one, its colours or its width.
+        CommandRole,        ///< The command text.
     };
     Q_ENUM(Role)
 

@@ -1,5 +1,6 @@
 #include "quick_backend/VqMenuRowData.h"
 
+#include "AbstractGui/CVqAbstractMenu.h"
 #include "quick_backend/CVqQuickMenuItem.h"
 #include "quick_backend/CVqQuickMenuRows.h"
 #include "quick_backend/IVqQuickMenuKeys.h"
@@ -85,6 +86,8 @@ QVariant FieldData(const CVqQuickMenuItem& item, int role)
         return uint(item.lineWidth());
     case CVqQuickMenuRows::ImageIndexRole:
         return int(item.enaBmpIndex());
+    case CVqQuickMenuRows::CommandRole:
+        return item.command().ToQString();
     case CVqQuickMenuRows::SubmenuRole:
         return QVariant::fromValue(item.submenu());
     default:
@@ -103,6 +106,18 @@ bool VqIsGrayed(const CVqMenuItem& item)
 {
     const vq_uint32 status = item.status();
     return !(status & CVqMenuItem::StatusEnabled) || (status & CVqMenuItem::StatusGrayed);
+}
+
+bool VqCanFire(const CVqMenuItem& item)
+{
+    if (item.type() == CVqAbstractMenu::SenseMainRoot || item.removed())
+        return false;
+    for (const CVqMenuItem* at = &item; at && at->type() != CVqAbstractMenu::SenseMainRoot;
+         at = at->parentItem()) {
+        if (at->deleted() || VqIsGrayed(*at))
+            return false;
+    }
+    return true;
 }
 
 QString VqMenuRowLabel(const CVqMenuItem& item)

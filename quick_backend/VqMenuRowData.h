@@ -13,6 +13,9 @@ bool VqIsShown(const CVqMenuItem& item);
 /// Disabled or grayed.
 bool VqIsGrayed(const CVqMenuItem& item);
 
+/// Whether a key or a click may run the item, see CVqQuickMenu::CanFire().
+bool VqCanFire(const CVqMenuItem& item);
+
 /// The text of the item without marks and key text.
 QString VqMenuRowLabel(const CVqMenuItem& item);
 

@@ -36,6 +36,8 @@ TEST_F(CVqQuickMenuItemTest, TellsOfEachSilentChange)
     EXPECT_TRUE(TakeRoles().contains(CVqQuickMenuRows::ShownRole));
     item.setDeleted(true);
     EXPECT_TRUE(TakeRoles().contains(CVqQuickMenuRows::ShownRole));
+    item.setCommand(VQ_TEXT("Open"));
+    EXPECT_TRUE(TakeRoles().contains(CVqQuickMenuRows::CommandRole));
     item.setId(5);
     EXPECT_TRUE(TakeRoles().contains(CVqQuickMenuRows::ItemIdRole));
     item.setLineWidth(5);
@@ -58,6 +60,7 @@ TEST_F(CVqQuickMenuItemTest, TheSameValueAgainTellsNothing)
 {
     item.setRemoved(false);
     item.setDeleted(false);
+    item.setCommand(VQ_TEXT(""));
     item.setId(0);
     item.setLineWidth(0);
     item.setCol1(0);

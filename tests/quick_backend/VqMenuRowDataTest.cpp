@@ -1,5 +1,6 @@
 #include "quick_backend/VqMenuRowData.h"
 
+#include "AbstractGui/CVqAbstractMenu.h"
 #include "quick_backend/CVqQuickMenuItem.h"
 #include "quick_backend/CVqQuickMenuRows.h"
 #include "quick_backend/IVqQuickMenuKeys.h"
@@ -78,6 +79,37 @@ TEST(VqMenuRowData, AnItemWithoutALabelIsNamedByWhatItShows)
 
     item.setText(VQ_TEXT("&Red"));
     EXPECT_EQ(name_as(CVqQuickMenuRows::OneColor), QStringLiteral("Red"));
+}
+
+TEST(VqMenuRowData, ACommandIsShownAsItIs)
+{
+    CVqQuickMenuItem item;
+    item.setCommand(VQ_TEXT("Run(\"x\")"));
+
+    EXPECT_EQ(VqMenuRowData(item, CVqQuickMenuRows::CommandRole, nullptr), QStringLiteral("Run(\"x\")"));
+}
+
+TEST(VqMenuRowData, AnItemFiresUnlessItOrAPopupAboveForbidsIt)
+{
+    CVqQuickMenuItem root;
+    CVqQuickMenuItem popup;
+    CVqQuickMenuItem item;
+    root.setType(CVqAbstractMenu::SenseMainRoot);
+    root.setDeleted(true); // nobody looks at the root
+    popup.setParentItem(&root);
+    item.setParentItem(&popup);
+    EXPECT_TRUE(VqCanFire(item));
+    EXPECT_FALSE(VqCanFire(root));
+
+    popup.setRemoved(true);
+    EXPECT_TRUE(VqCanFire(item));
+
+    popup.setDeleted(true);
+    EXPECT_FALSE(VqCanFire(item));
+
+    popup.setDeleted(false);
+    item.setRemoved(true);
+    EXPECT_FALSE(VqCanFire(item));
 }
 
 TEST(VqMenuRowData, ARoleThatNoRowHasIsInvalid)
