@@ -1,0 +1,6 @@
+#include "quick_backend/toolbar/CVqQuickTextButton.h"
+
+CVqQuickTextButton::CVqQuickTextButton() : CVqQuickButton(TextButton)
+{
+    SetTextBesideImage(true);
+}
