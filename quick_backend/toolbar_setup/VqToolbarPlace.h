@@ -1,0 +1,23 @@
+#pragma once
+
+#include <QPointF>
+#include <QRectF>
+
+class CVqQuickControl;
+class CVqQuickToolbar;
+class CVqQuickToolbarArea;
+
+/// A place between the controls of an area, into which something is dropped.
+struct SVqToolbarPlace
+{
+    CVqQuickControl* m_behind
+        = nullptr; ///< The shown control of the area that it lies behind; null for the first.
+    CVqQuickControl* m_before
+        = nullptr; ///< The shown control of the area that it lies before; null at the end.
+    QRectF m_mark; ///< Where to mark it, in logical pixels of the area.
+};
+
+/// The place that is nearest to a point of `area`, in its reading order: along rows, or columns of an upright
+/// bar, and from the right in a mirrored layout. `toolbar` is the one whose controls the area shows, or the
+/// main one of a picker's area.
+SVqToolbarPlace VqToolbarPlace(CVqQuickToolbar& toolbar, const CVqQuickToolbarArea& area, QPointF point);
