@@ -255,4 +255,134 @@
         <translation>Abbrechen</translation>
     </message>
 </context>
+<context>
+    <name>ToolbarMenu</name>
+    <message>
+        <source>Hide “%1”</source>
+        <translation>„%1“ ausblenden</translation>
+    </message>
+    <message>
+        <source>Remove separator</source>
+        <translation>Trennlinie entfernen</translation>
+    </message>
+    <message>
+        <source>Show hidden buttons</source>
+        <translation>Ausgeblendete Schaltflächen zeigen</translation>
+    </message>
+    <message>
+        <source>Customise...</source>
+        <translation>Anpassen ...</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSession</name>
+    <message>
+        <source>More buttons</source>
+        <translation>Weitere Schaltflächen</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupPad</name>
+    <message>
+        <source>Separator</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose a button, with Alt they move it. Delete removes it, Insert adds a separator.</source>
+        <translation>Pfeiltasten wählen eine Schaltfläche, mit Alt verschieben sie sie. Entf entfernt sie, Einfg fügt eine Trennlinie ein.</translation>
+    </message>
+    <message>
+        <source>Customise %1</source>
+        <translation>%1 anpassen</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3 on %4</source>
+        <translation>%1, %2 von %3 auf %4</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupPanel</name>
+    <message>
+        <source>Customise toolbars</source>
+        <translation>Symbolleisten anpassen</translation>
+    </message>
+    <message>
+        <source>There are no buttons on this toolbar.</source>
+        <translation>Auf dieser Symbolleiste sind keine Schaltflächen.</translation>
+    </message>
+    <message>
+        <source>Buttons of the toolbar</source>
+        <translation>Schaltflächen der Symbolleiste</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>Nach oben</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>Nach unten</translation>
+    </message>
+    <message>
+        <source>Add separator</source>
+        <translation>Trennlinie einfügen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Search commands</source>
+        <translation>Befehle suchen</translation>
+    </message>
+    <message>
+        <source>There are no commands.</source>
+        <translation>Es gibt keine Befehle.</translation>
+    </message>
+    <message>
+        <source>No command matches.</source>
+        <translation>Kein Befehl passt.</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>Befehle</translation>
+    </message>
+    <message>
+        <source>Add to the toolbar</source>
+        <translation>Zur Symbolleiste hinzufügen</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>All toolbars as they were delivered</source>
+        <translation>Alle Symbolleisten wie ausgeliefert</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>Fertig</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupRow</name>
+    <message>
+        <source>Separator</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>Nicht verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupTabs</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>Symbolleiste</translation>
+    </message>
+</context>
 </TS>

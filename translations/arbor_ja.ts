@@ -255,4 +255,134 @@
         <translation>キャンセル</translation>
     </message>
 </context>
+<context>
+    <name>ToolbarMenu</name>
+    <message>
+        <source>Hide “%1”</source>
+        <translation>「%1」を隠す</translation>
+    </message>
+    <message>
+        <source>Remove separator</source>
+        <translation>区切り線を削除</translation>
+    </message>
+    <message>
+        <source>Show hidden buttons</source>
+        <translation>隠したボタンを表示</translation>
+    </message>
+    <message>
+        <source>Customise...</source>
+        <translation>カスタマイズ...</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSession</name>
+    <message>
+        <source>More buttons</source>
+        <translation>その他のボタン</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupPad</name>
+    <message>
+        <source>Separator</source>
+        <translation>区切り線</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose a button, with Alt they move it. Delete removes it, Insert adds a separator.</source>
+        <translation>矢印キーでボタンを選び、Alt と矢印キーで移動します。Delete で削除し、Insert で区切り線を追加します。</translation>
+    </message>
+    <message>
+        <source>Customise %1</source>
+        <translation>%1 のカスタマイズ</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3 on %4</source>
+        <translation>%1、%4 の %3 個中 %2 番目</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupPanel</name>
+    <message>
+        <source>Customise toolbars</source>
+        <translation>ツールバーのカスタマイズ</translation>
+    </message>
+    <message>
+        <source>There are no buttons on this toolbar.</source>
+        <translation>このツールバーにはボタンがありません。</translation>
+    </message>
+    <message>
+        <source>Buttons of the toolbar</source>
+        <translation>ツールバーのボタン</translation>
+    </message>
+    <message>
+        <source>Move up</source>
+        <translation>上へ</translation>
+    </message>
+    <message>
+        <source>Move down</source>
+        <translation>下へ</translation>
+    </message>
+    <message>
+        <source>Add separator</source>
+        <translation>区切り線を追加</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
+    </message>
+    <message>
+        <source>Search commands</source>
+        <translation>コマンドを検索</translation>
+    </message>
+    <message>
+        <source>There are no commands.</source>
+        <translation>コマンドがありません。</translation>
+    </message>
+    <message>
+        <source>No command matches.</source>
+        <translation>一致するコマンドがありません。</translation>
+    </message>
+    <message>
+        <source>Commands</source>
+        <translation>コマンド</translation>
+    </message>
+    <message>
+        <source>Add to the toolbar</source>
+        <translation>ツールバーに追加</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>リセット</translation>
+    </message>
+    <message>
+        <source>All toolbars as they were delivered</source>
+        <translation>すべてのツールバーを初期状態に戻す</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Done</source>
+        <translation>完了</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupRow</name>
+    <message>
+        <source>Separator</source>
+        <translation>区切り線</translation>
+    </message>
+    <message>
+        <source>Not available</source>
+        <translation>利用できません</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupTabs</name>
+    <message>
+        <source>Toolbar</source>
+        <translation>ツールバー</translation>
+    </message>
+</context>
 </TS>
