@@ -1,0 +1,16 @@
+#pragma once
+
+#include "quick_backend/CVqQuickMenu.h"
+#include "quick_backend/toolbar/CVqQuickButtonToolbar.h"
+#include "quick_backend/toolbar_setup/CVqQuickToolbarSetup.h"
+
+#include <QString>
+
+class QQuickItem;
+
+// The pieces of docs/toolbars.md, as functions that tests/docs/toolbar_guideTest.cpp calls.
+void fill_toolbar(CVqQuickButtonToolbar& bar, CVqQuickMenu& menu);
+void add_slider(CVqQuickButtonToolbar& bar, QQuickItem* slider);
+bool save_toolbar(CVqQuickButtonToolbar& bar, const QString& name);
+bool load_toolbar(CVqQuickButtonToolbar& bar, const QString& name);
+void customise(CVqQuickToolbarSetup& setup, CVqQuickButtonToolbar& bar);
