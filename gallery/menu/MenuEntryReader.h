@@ -1,26 +1,21 @@
 #pragma once
 
+#include "gallery/menu/JsonFields.h"
 #include "gallery/menu/MenuEntry.h"
 
 #include <QHash>
-#include <QJsonObject>
 #include <QJsonValue>
 
 namespace Gallery {
 
-/// What is wrong with a menu file, and where.
-struct MenuFault
-{
-    QString path;   ///< Of the value at fault, as JsonLines takes it.
-    QString reason; ///< A sentence without its full stop. Empty: nothing is wrong.
-};
-
 /// Reads the entries of one menu file and keeps the first fault it meets.
 ///
 /// One reader reads one file: it remembers identifiers and keys, which may stand only once in a file.
-class MenuEntryReader
+class MenuEntryReader : public JsonFields
 {
 public:
+    MenuEntryReader();
+
     /// Popups inside popups beyond this depth are refused.
     static constexpr int MaxDepth = 8;
 
@@ -30,28 +25,7 @@ public:
     /// Reads the keys without an entry from the member `member` of `file`.
     std::vector<LonelyKey> ReadLonelyKeys(const QJsonObject& file, const QString& member);
 
-    /// Notes a fault unless there is one. Always false, so that a check can end with it.
-    bool Fail(const QString& path, const QString& reason);
-
-    /// True when `object` has none but the members `known`; notes the first other one.
-    bool CheckMembers(const QJsonObject& object, const QString& path, const QString& name,
-                      const QStringList& known);
-
-    const MenuFault& Fault() const { return m_fault; }
-
 private:
-    /// An entry as it stands in the file.
-    struct Source
-    {
-        QJsonObject object;
-        QString path;
-        QString name; // how a sentence calls it
-    };
-
-    bool failed() const { return !m_fault.reason.isEmpty(); }
-    /// `member` is the member at fault; empty when it is the entry as a whole.
-    bool fail(const Source& source, const QString& member, const QString& rest);
-    bool open(const QJsonValue& value, const QString& path, Source& source);
     std::vector<MenuEntry> read_entries(const QJsonValue& value, const QString& path, const QString& owner);
     bool read_entry(const Source& source, MenuEntry& entry);
     bool read_label(const Source& source, MenuEntry& entry);
@@ -61,9 +35,6 @@ private:
     bool check_radio_groups(const std::vector<MenuEntry>& entries, const QString& path);
     bool read_type(const Source& source, MenuEntryType& type);
     bool read_id(const Source& source, vq_uint32& id);
-    bool read_text(const Source& source, const QString& member, QString& text);
-    bool read_flag(const Source& source, const QString& member, bool& flag);
-    bool read_image(const Source& source, QString& image);
     bool read_color(const Source& source, const QString& member, vq_uint32& color);
     bool read_width(const Source& source, vq_uint32& width);
     bool read_keys(const Source& source, MenuEntry& entry);
@@ -73,7 +44,6 @@ private:
     bool claim_key(const Source& source, const QString& member, const MenuKey& key);
     bool read_lonely(const Source& source, LonelyKey& lonely);
 
-    MenuFault m_fault;
     QHash<vq_uint32, QString> m_ids;     // id -> the entry's name
     QHash<quint64, QString> m_key_owner; // flags and key -> the entry's name
     int m_depth = 0;

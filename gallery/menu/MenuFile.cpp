@@ -1,12 +1,7 @@
 #include "gallery/menu/MenuFile.h"
 
-#include "gallery/menu/JsonLines.h"
+#include "gallery/menu/JsonFile.h"
 #include "gallery/menu/MenuEntryReader.h"
-
-#include <QCryptographicHash>
-#include <QFile>
-#include <QFileInfo>
-#include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -34,38 +29,31 @@ MenuDocument read_document(const QJsonObject& file, MenuEntryReader& reader)
 
 bool MenuFile::Load(const QString& name)
 {
-    if (QFileInfo(name).isDir())
-        return fail(name, 0, u"it is a folder"_s);
-    QFile file(name);
-    if (!file.open(QIODevice::ReadOnly))
-        return fail(name, 0, file.errorString());
-    return Parse(file.readAll(), name);
+    JsonFile file;
+    file.Load(name);
+    return take(file);
 }
 
 bool MenuFile::Parse(const QByteArray& json, const QString& name)
 {
-    QJsonParseError error;
-    const QJsonDocument parsed = QJsonDocument::fromJson(json, &error);
-    if (error.error != QJsonParseError::NoError)
-        return fail(name, JsonLines::LineAt(json, error.offset), error.errorString());
-    if (!parsed.isObject())
-        return fail(name, 1, u"the file is not an object"_s);
-    MenuEntryReader reader;
-    MenuDocument document = read_document(parsed.object(), reader);
-    if (!reader.Fault().reason.isEmpty())
-        return fail(name, JsonLines(json).LineOf(reader.Fault().path), reader.Fault().reason);
-    m_document = std::move(document);
-    m_document.fingerprint
-        = QString::fromLatin1(QCryptographicHash::hash(json, QCryptographicHash::Sha256).toHex());
-    m_error.clear();
-    return true;
+    JsonFile file;
+    file.Parse(json, name);
+    return take(file);
 }
 
-bool MenuFile::fail(const QString& name, int line, const QString& reason)
+bool MenuFile::take(const JsonFile& file)
 {
-    const QString place = line > 0 ? u"%1, line %2"_s.arg(name).arg(line) : name;
-    m_error = u"%1: %2."_s.arg(place, reason);
-    return false;
+    m_error = file.Error();
+    if (!m_error.isEmpty())
+        return false;
+    MenuEntryReader reader;
+    MenuDocument document = read_document(file.Object(), reader);
+    m_error = file.SentenceOn(reader.Fault());
+    if (!m_error.isEmpty())
+        return false;
+    m_document = std::move(document);
+    m_document.fingerprint = file.Fingerprint();
+    return true;
 }
 
 }

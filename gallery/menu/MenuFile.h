@@ -6,6 +6,8 @@
 
 namespace Gallery {
 
+class JsonFile;
+
 /// Reads a menu file; data/README.md tells its format.
 ///
 ///     MenuFile file;
@@ -27,7 +29,7 @@ public:
     const QString& Error() const { return m_error; }
 
 private:
-    bool fail(const QString& name, int line, const QString& reason);
+    bool take(const JsonFile& file);
 
     MenuDocument m_document;
     QString m_error;

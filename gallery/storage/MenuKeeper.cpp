@@ -50,24 +50,29 @@ bool holds(CVqAbstractMenu& menu, const MenuEntry& entry)
 
 MenuKeeper::MenuKeeper(CVqAbstractMenu& menu, const MenuDocument& document, const MenuHome& home,
                        QObject* parent)
-    : QObject(parent), m_menu(menu), m_document(document), m_home(home), m_store(home.folder)
+    : QObject(parent),
+      m_menu(menu),
+      m_document(document),
+      m_home(home),
+      m_store(home.folder, QStringLiteral("menus"))
 { }
 
 QHash<vq_uint32, MenuRole> MenuKeeper::Fill()
 {
     MenuBuilder builder(m_menu);
-    StoredMenu stored;
+    CVqVariant tree;
     const bool is_kept = !m_home.folder.isEmpty();
-    const MenuStore::Found found = is_kept ? m_store.Read(stored) : MenuStore::Found::Nothing;
-    const bool is_newer = found == MenuStore::Found::Menus && stored.factory != m_document.fingerprint;
-    if (found == MenuStore::Found::Menus && !is_newer && load(stored)) {
-        builder.Restore(m_document, stored.language != m_home.language);
+    const TreeStore::Found found = is_kept ? m_store.Read(tree) : TreeStore::Found::Nothing;
+    const std::optional<StoredMenu> stored = FromTree(tree);
+    const bool is_newer = stored && stored->factory != m_document.fingerprint;
+    if (stored && !is_newer && load(*stored)) {
+        builder.Restore(m_document, stored->language != m_home.language);
         return builder.Roles();
     }
     builder.Build(m_document);
     if (is_newer)
-        GiveOwnKeys(m_menu, m_document, stored.own_keys);
-    else if (found != MenuStore::Found::Nothing)
+        GiveOwnKeys(m_menu, m_document, stored->own_keys);
+    else if (found != TreeStore::Found::Nothing)
         set_aside();
     Store();
     return builder.Roles();
@@ -89,7 +94,7 @@ void MenuKeeper::Store()
         return;
     StoredMenu stored{m_document.fingerprint, m_home.language, {}, OwnKeysOf(m_menu, m_document)};
     m_menu.Save(stored.menu);
-    const QString reason = m_store.Write(stored);
+    const QString reason = m_store.Write(ToTree(stored));
     if (!reason.isEmpty())
         tell(tr("The menus cannot be stored in %1 (%2), so keys that you change last until the program ends.")
                  .arg(QDir::toNativeSeparators(m_home.folder), reason));

@@ -2,7 +2,8 @@
 
 #include "gallery/menu/MenuBuilder.h"
 #include "gallery/storage/MenuHome.h"
-#include "gallery/storage/MenuStore.h"
+#include "gallery/storage/StoredMenu.h"
+#include "gallery/storage/TreeStore.h"
 
 #include <QObject>
 
@@ -43,7 +44,7 @@ private:
     CVqAbstractMenu& m_menu;
     const MenuDocument& m_document;
     MenuHome m_home;
-    MenuStore m_store;
+    TreeStore m_store;
     QString m_notice;
 };
 

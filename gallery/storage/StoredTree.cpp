@@ -28,7 +28,7 @@ QString reason_of(EVqStorageResult result)
     case EVqStorageResult::TooDeep:
         return u"it has too many levels"_s;
     default:
-        return u"it is not in the form of stored menus"_s;
+        return u"it is not in the stored form"_s;
     }
 }
 

@@ -1,7 +1,8 @@
 #include "gallery/storage/PrintMenus.h"
 
-#include "gallery/storage/MenuStore.h"
+#include "gallery/storage/StoredMenu.h"
 #include "gallery/storage/StoredTree.h"
+#include "gallery/storage/TreeStore.h"
 #include "tests/gallery/keys/KeyMenu.h"
 
 #include <QDir>
@@ -60,7 +61,7 @@ TEST_F(PrintMenus, KeysAreThoseOfTheFolder)
     KeyMenu menu(KeyDocument());
     menu.Menu().SetIdAccelKey(3, KeyOf::CtrlK.flags, KeyOf::CtrlK.key, false);
     menu.Menu().Save(stored.menu);
-    Gallery::MenuStore(m_folder.path()).Write(stored);
+    Gallery::TreeStore(m_folder.path(), u"menus"_s).Write(ToTree(stored));
     QString notice;
 
     const QStringList lines = Gallery::PrintKeys(KeyDocument(), {m_folder.path()}, notice);

@@ -117,5 +117,5 @@ TEST_F(StoredTree, AnotherKindOfFileIsNotRead)
 {
     Put(u"a.cbor"_s, "\xFF\xD8\xFF"); // a JPEG begins so
 
-    EXPECT_EQ(ReadStoredTree(Path(u"a.cbor"_s), m_tree), u"it is not in the form of stored menus"_s);
+    EXPECT_EQ(ReadStoredTree(Path(u"a.cbor"_s), m_tree), u"it is not in the stored form"_s);
 }
