@@ -34,6 +34,7 @@ public:
 Q_SIGNALS:
     void QuitRequested();
     void PageRequested(const QString& name);
+    void CustomiseRequested();
 
 private:
     using Action = std::function<void(const QString& arguments)>;

@@ -28,6 +28,10 @@ void Commands::add_view_commands()
     add_switch(u"ViewRulers"_s, &ViewState::rulers);
     add_switch(u"SelectEdges"_s, &ViewState::edges);
     add_switch(u"ViewToolStrip"_s, &ViewState::tool_strip);
+    m_actions[u"ViewToolbar"_s] = [this](const QString& name) {
+        (name == u"main"_s ? m_view.main_bar : m_view.text_bar) = m_checked;
+    };
+    m_actions[u"ViewCustomiseToolbars"_s] = [this](const QString&) { Q_EMIT CustomiseRequested(); };
     add_switch(u"ViewSidePanel"_s, &ViewState::side_panel);
     add_switch(u"ViewStatusLine"_s, &ViewState::status_line);
     add_switch(u"ViewFullScreen"_s, &ViewState::full_screen);

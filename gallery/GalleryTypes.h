@@ -13,6 +13,7 @@
 #include "gallery/lists/LayerListModel.h"
 #include "gallery/picture/CanvasItem.h"
 #include "gallery/resize/BatchResize.h"
+#include "gallery/toolbar/Toolbars.h"
 
 #include <QJSEngine>
 #include <QtQmlIntegration>
@@ -121,6 +122,14 @@ public:
         QJSEngine::setObjectOwnership(Gallery::Session::OfProgram(), QJSEngine::CppOwnership);
         return Gallery::Session::OfProgram();
     }
+};
+
+struct ToolbarsType
+{
+    Q_GADGET
+    QML_FOREIGN(Gallery::Toolbars)
+    QML_NAMED_ELEMENT(Toolbars)
+    QML_UNCREATABLE("A session has some.")
 };
 
 struct WriteCheckType

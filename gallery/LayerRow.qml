@@ -16,8 +16,7 @@ Rectangle {
     border { color: current ? Theme.accent : Theme.line; width: 1 }
 
     Rectangle {
-        x: 12
-        anchors.verticalCenter: parent.verticalCenter
+        anchors { left: parent.left; leftMargin: 12; verticalCenter: parent.verticalCenter }
         width: 10
         height: 10
         radius: 5
@@ -29,6 +28,7 @@ Rectangle {
 
         Text {
             width: parent.width
+            horizontalAlignment: Text.AlignLeft
             text: row.name
             elide: Text.ElideRight
             color: Theme.ink
@@ -36,6 +36,7 @@ Rectangle {
         }
         Text {
             width: parent.width
+            horizontalAlignment: Text.AlignLeft
             text: row.detail
             elide: Text.ElideRight
             color: Theme.softInk

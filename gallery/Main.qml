@@ -2,9 +2,15 @@ import QtQuick
 import QtQuick.Layouts
 import K7.Arbor.QuickBackend
 
-// The gallery's window: menu bar, pages and status line.
+// The gallery's window: menu bar, toolbars, pages and status line.
 Window {
     id: window
+
+    readonly property ViewState view: Session.view
+    readonly property bool customising: Session.toolbars.setup.active
+
+    // Tools and text bar belong to the picture.
+    readonly property bool showsPicture: Session.page === "PicturePage"
 
     width: 1180
     height: 760
@@ -15,11 +21,17 @@ Window {
     title: qsTr("%1 - Arbor Gallery").arg(Session.document.name)
     color: Theme.window
 
+    LayoutMirroring.enabled: Application.layoutDirection === Qt.RightToLeft
+    LayoutMirroring.childrenInherit: true
+
     palette {
         window: Theme.panel
         windowText: Theme.ink
         base: Theme.panel
         text: Theme.ink
+        button: Theme.field
+        buttonText: Theme.ink
+        placeholderText: Theme.softInk
         highlight: Theme.accent
         highlightedText: Theme.accentInk
     }
@@ -44,6 +56,14 @@ Window {
                 }
             }
         }
+        Toolbar {
+            objectName: "mainBar"
+            Layout.fillWidth: true
+            visible: window.view.mainBar || window.customising
+            toolbar: Session.toolbars.bar("main")
+            imageSource: "image://arbor/"
+            Accessible.name: qsTr("Main bar")
+        }
         PageSwitcher {
             Layout.fillWidth: true
             onEntered: area.forceActiveFocus(Qt.TabFocusReason)
@@ -56,16 +76,42 @@ Window {
                 area.forceActiveFocus(Qt.OtherFocusReason);
             }
         }
-        PageArea {
-            id: area
-
+        Toolbar {
+            objectName: "textBar"
             Layout.fillWidth: true
-            Layout.fillHeight: true
-            focus: true
+            visible: window.showsPicture && window.view.textBar || window.customising
+            toolbar: Session.toolbars.bar("text")
+            imageSource: "image://arbor/"
+            Accessible.name: qsTr("Text bar")
+        }
+        RowLayout {
+            spacing: 0
+
+            Toolbar {
+                objectName: "toolsBar"
+                Layout.fillHeight: true
+                visible: window.showsPicture && window.view.toolStrip || window.customising
+                toolbar: Session.toolbars.bar("tools")
+                imageSource: "image://arbor/"
+                Accessible.name: qsTr("Tools")
+            }
+            PageArea {
+                id: area
+
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                focus: true
+
+                SetupSheet {
+                    anchors.fill: parent
+                    setup: Session.toolbars.setup
+                    dragLayer: dragLayer
+                }
+            }
         }
         StatusLine {
             Layout.fillWidth: true
-            visible: Session.view.statusLine
+            visible: window.view.statusLine
         }
     }
 
@@ -73,5 +119,15 @@ Window {
         anchors.fill: parent
         menu: Session.menu
         imageSource: "image://arbor/"
+    }
+    ToolbarDragLayer {
+        id: dragLayer
+
+        anchors.fill: parent
+        setup: Session.toolbars.setup
+    }
+    ToolbarMenu {
+        anchors.fill: parent
+        setup: Session.toolbars.setup
     }
 }

@@ -14,7 +14,9 @@ namespace Gallery {
 namespace {
 
 constexpr int g_bad_arguments = 2;
-constexpr QLatin1StringView g_print_keys("print-keys"); // the one option without a value
+constexpr QLatin1StringView g_print_keys("print-keys"); // without a value, as the next one
+constexpr QLatin1StringView g_rtl("rtl");
+constexpr QLatin1StringView g_print_toolbars("print-toolbars");
 
 void describe(QCommandLineParser& parser)
 {
@@ -22,7 +24,9 @@ void describe(QCommandLineParser& parser)
         u"Arbor Gallery: menus, keys and mnemonics in a small image application."_s);
     parser.addOptions({
         {u"keys"_s,
-         u"Presses keys one after the other, such as \"Ctrl+Shift+S,Alt+F,Ctrl+Comma\", and prints the command of each."_s,
+         u"Presses keys one after the other, such as \"Ctrl+Shift+S,Alt+F,Ctrl+Comma\", and prints the "
+         u"command of each. "
+         u"The mouse takes part as \"@click main/EditUndo\", \"@right NAME\" and \"@drag NAME NAME\"."_s,
          u"list"_s},
         {u"screenshots"_s, u"Writes pictures of the window and its menus into a folder."_s, u"folder"_s},
         {u"demo"_s,
@@ -30,12 +34,15 @@ void describe(QCommandLineParser& parser)
          u"folder"_s},
         {u"locale"_s, u"Language of labels and key names: de or en; ja for key names alone."_s, u"name"_s,
          u"en"_s},
+        {QString(g_rtl), u"Lays the window out from right to left."_s},
         {u"menus"_s, u"Reads the menu from a file."_s, u"file"_s},
+        {u"toolbars"_s, u"Reads the toolbars from a file."_s, u"file"_s},
         {u"qml"_s,
          u"Reads the gallery's QML files from a folder, and again when they change, with ORV_DEVELOP_RESOURCES set."_s,
          u"folder"_s},
-        {u"data"_s, u"Keeps the menus, with keys that were changed, in a folder."_s, u"folder"_s},
+        {u"data"_s, u"Keeps menus and toolbars, with what was changed of them, in a folder."_s, u"folder"_s},
         {u"print-menus"_s, u"Prints a file with stored menus as readable JSON."_s, u"file"_s},
+        {QString(g_print_toolbars), u"Prints a file with stored toolbars as readable JSON."_s, u"file"_s},
         {QString(g_print_keys), u"Prints the commands with their keys."_s},
         {u"page"_s, u"Opens the window with a page: %1."_s.arg(PageNames().join(u", "_s)), u"name"_s},
         {{u"h"_s, u"help"_s}, u"Shows this help."_s},
@@ -53,14 +60,14 @@ OptionsResult refuse(const QString& sentence)
 QString option_without_value(const QCommandLineParser& parser)
 {
     for (const QString& name : parser.optionNames())
-        if (name != g_print_keys && parser.value(name).isEmpty())
+        if (name != g_print_keys && name != g_rtl && parser.value(name).isEmpty())
             return name;
     return {};
 }
 
 OptionsResult take(const QCommandLineParser& parser)
 {
-    for (const QString& other : {u"menus"_s, u"render"_s, u"resize"_s})
+    for (const QString& other : {u"menus"_s, u"toolbars"_s, u"render"_s, u"resize"_s})
         if (parser.isSet(u"data"_s) && parser.isSet(other))
             return refuse(u"--data does not go with --%1."_s.arg(other));
     OptionsResult result;
@@ -68,9 +75,12 @@ OptionsResult take(const QCommandLineParser& parser)
     result.options.demo = parser.value(u"demo"_s);
     result.options.locale = parser.value(u"locale"_s);
     result.options.menus = parser.value(u"menus"_s);
+    result.options.toolbars = parser.value(u"toolbars"_s);
+    result.options.rtl = parser.isSet(g_rtl);
     result.options.qml = parser.value(u"qml"_s);
     result.options.data = parser.value(u"data"_s);
-    result.options.print_menus = parser.value(u"print-menus"_s);
+    const bool of_toolbars = parser.isSet(g_print_toolbars);
+    result.options.print_menus = parser.value(of_toolbars ? QString(g_print_toolbars) : u"print-menus"_s);
     result.options.print_keys = parser.isSet(g_print_keys);
     result.options.page = parser.value(u"page"_s);
     if (!QStringList{u"de"_s, u"en"_s, u"ja"_s}.contains(result.options.locale))
@@ -87,7 +97,7 @@ OptionsResult take_keys(const QCommandLineParser& parser, OptionsResult result)
     QString bad;
     if (!parser.isSet(u"keys"_s) || result.exit_code >= 0)
         return result;
-    const std::optional<QList<KeyPress>> keys = ParseKeyPresses(parser.value(u"keys"_s), bad);
+    const std::optional<QList<ScriptStep>> keys = ParseScript(parser.value(u"keys"_s), bad);
     if (!keys)
         return refuse(u"\"%1\" names no key."_s.arg(bad));
     result.options.keys = *keys;
@@ -123,7 +133,7 @@ OptionsResult take_resize(const QCommandLineParser& parser, OptionsResult result
 MenuHome Options::Home() const
 {
     MenuHome home{data, locale};
-    if (data.isEmpty() && menus.isEmpty() && !IsScript())
+    if (data.isEmpty() && menus.isEmpty() && toolbars.isEmpty() && !IsScript())
         home.folder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     return home;
 }

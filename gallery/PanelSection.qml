@@ -11,6 +11,8 @@ Column {
     spacing: Theme.space
 
     Text {
+        width: parent.width
+        horizontalAlignment: Text.AlignLeft
         text: section.title
         color: Theme.softInk
         font { pixelSize: Theme.smallText; weight: Font.DemiBold; capitalization: Font.AllUppercase; letterSpacing: 0.6 }

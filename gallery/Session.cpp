@@ -28,12 +28,15 @@ QString time_text(qint64 nanoseconds)
 
 }
 
-Session::Session(const MenuDocument& document, const MenuHome& home, QObject* parent)
+Session::Session(const MenuDocument& document, const MenuHome& home, const ToolbarDocument& toolbars,
+                 QObject* parent)
     : QObject(parent),
       m_commands(m_document, m_view),
       m_factory_menu(document),
+      m_factory_toolbars(toolbars),
       m_keeper(m_menu, m_factory_menu, home),
       m_marks(m_menu, m_keeper.Fill()),
+      m_toolbars(m_menu, m_factory_toolbars, home),
       m_key_editor(m_menu, m_factory_menu),
       m_context_menu(document.context.empty() ? 0 : document.context.front().id),
       m_page(PageNames().constFirst())
@@ -45,6 +48,8 @@ Session::Session(const MenuDocument& document, const MenuHome& home, QObject* pa
     connect(&m_document, &Document::Changed, this, [this] { refresh_entries({}); });
     connect(&m_key_editor, &KeyEditor::KeysChanged, &m_keeper, &MenuKeeper::Store);
     connect(&m_keeper, &MenuKeeper::NoticeChanged, this, &Session::NoticeChanged);
+    connect(&m_toolbars.Keeper(), &ToolbarKeeper::NoticeChanged, this, &Session::NoticeChanged);
+    connect(&m_commands, &Commands::CustomiseRequested, m_toolbars.Setup(), &CVqQuickToolbarSetup::begin);
 }
 
 Session::~Session()
@@ -81,6 +86,19 @@ QUrl Session::PageUrl() const
     return Gallery::PageUrl(m_page);
 }
 
+QString Session::Notice() const
+{
+    QStringList sentences{m_keeper.Notice(), m_toolbars.Keeper().Notice()};
+    sentences.removeAll(QString());
+    return sentences.join(u'\n');
+}
+
+void Session::clearNotice()
+{
+    m_keeper.ClearNotice();
+    m_toolbars.Keeper().ClearNotice();
+}
+
 void Session::choose(const QString& command)
 {
     const QList<vq_uint32> ids = m_marks.EntriesOf(command);
@@ -92,6 +110,21 @@ QString Session::label(const QString& command)
 {
     const QList<vq_uint32> ids = command.isEmpty() ? QList<vq_uint32>() : m_marks.EntriesOf(command);
     return ids.isEmpty() ? QString() : PlainLabel(m_menu, ids.front());
+}
+
+void Session::openPopupOf(const QString& command, int x, int y)
+{
+    const QList<vq_uint32> ids = m_marks.EntriesOf(command);
+    const CVqMenuItem* item
+        = ids.isEmpty() ? nullptr : m_menu.Manipulators().find_item(ids.front(), m_menu.getRootMenuItem());
+    if (item && item->parentItem())
+        m_menu.track(item->parentItem()->id(), x, y);
+}
+
+void Session::zoomTo(qreal percent)
+{
+    m_commands.Run(u"ViewZoom(%1)"_s.arg(percent), true);
+    m_marks.ClearGroup(u"ViewZoomFit"_s);
 }
 
 void Session::openContextMenu(int x, int y)

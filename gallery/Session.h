@@ -7,20 +7,23 @@
 #include "gallery/picture/Document.h"
 #include "gallery/resize/BatchResize.h"
 #include "gallery/storage/MenuKeeper.h"
+#include "gallery/toolbar/ToolbarFile.h"
+#include "gallery/toolbar/Toolbars.h"
 #include "quick_backend/CVqQuickMenu.h"
 
 #include <QUrl>
 
 namespace Gallery {
 
-/// One run of the gallery: the picture, the view, the menu that acts on them and its keys, the page that
-/// shows, the batch resize, and what status line and notice tell.
+/// One run of the gallery: the picture, the view, the menu that acts on them, its keys and toolbars, the page
+/// that shows, the batch resize, and what status line and notice tell.
 class Session : public QObject
 {
     Q_OBJECT
     Q_PROPERTY(Gallery::Document* document READ GetDocument CONSTANT)
     Q_PROPERTY(Gallery::ViewState* view READ View CONSTANT)
     Q_PROPERTY(CVqQuickMenu* menu READ Menu CONSTANT)
+    Q_PROPERTY(Gallery::Toolbars* toolbars READ GetToolbars CONSTANT)
     Q_PROPERTY(Gallery::BatchResize* batchResize READ GetBatchResize CONSTANT)
     Q_PROPERTY(Gallery::KeyEditor* keyEditor READ GetKeyEditor CONSTANT)
     Q_PROPERTY(QStringList pages READ Pages CONSTANT)
@@ -32,8 +35,10 @@ class Session : public QObject
     Q_PROPERTY(QString notice READ Notice NOTIFY NoticeChanged)
 
 public:
-    /// Has the menus that are kept in `home`, or else those of `document`, the factory menu.
-    explicit Session(const MenuDocument& document, const MenuHome& home = {}, QObject* parent = nullptr);
+    /// Has the menus and toolbars that are kept in `home`, or else the factory's: those of `document` and
+    /// `toolbars`.
+    explicit Session(const MenuDocument& document, const MenuHome& home = {},
+                     const ToolbarDocument& toolbars = FactoryToolbars(), QObject* parent = nullptr);
     ~Session() override;
 
     /// The session of the program, which QML knows as the singleton Session: the one made last, while it
@@ -43,6 +48,8 @@ public:
     Document* GetDocument() { return &m_document; }
     ViewState* View() { return &m_view; }
     CVqQuickMenu* Menu() { return &m_menu; }
+    Toolbars* GetToolbars() { return &m_toolbars; }
+    const Toolbars* GetToolbars() const { return &m_toolbars; }
     BatchResize* GetBatchResize() { return &m_batch_resize; }
     KeyEditor* GetKeyEditor() { return &m_key_editor; }
 
@@ -69,16 +76,23 @@ public:
     /// Time that finding the command of LastKey() took, with its unit; empty without a key.
     const QString& LastTime() const { return m_last_time; }
 
-    /// One sentence on the folder of the menus that the user should read; empty for none.
-    const QString& Notice() const { return m_keeper.Notice(); }
+    /// What the user should read on the folder of menus and toolbars: a sentence, two lines with a sentence
+    /// each, or nothing.
+    QString Notice() const;
     /// To be called once it was read.
-    Q_INVOKABLE void clearNotice() { m_keeper.ClearNotice(); }
+    Q_INVOKABLE void clearNotice();
 
     /// Chooses the first entry with `command`, as a click on it does.
     Q_INVOKABLE void choose(const QString& command);
 
     /// The label of the first entry with `command`, as people read it; empty when there is none.
     Q_INVOKABLE QString label(const QString& command);
+
+    /// Opens the popup that holds the first entry with `command` at `x`, `y` of the desktop.
+    Q_INVOKABLE void openPopupOf(const QString& command, int x, int y);
+
+    /// Shows the picture at `percent` of its size.
+    Q_INVOKABLE void zoomTo(qreal percent);
 
     /// Opens the first context menu at `x`, `y` of the desktop.
     Q_INVOKABLE void openContextMenu(int x, int y);
@@ -104,9 +118,11 @@ private:
     ViewState m_view;
     Commands m_commands;
     const MenuDocument m_factory_menu;
+    const ToolbarDocument m_factory_toolbars;
     CVqQuickMenu m_menu;
     MenuKeeper m_keeper;
     MenuMarks m_marks;
+    Toolbars m_toolbars;
     KeyEditor m_key_editor;
     BatchResize m_batch_resize;
     vq_uint32 m_context_menu = 0;

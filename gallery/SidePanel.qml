@@ -73,7 +73,7 @@ Rectangle {
                 height: 52
 
                 Rectangle {
-                    x: 18
+                    anchors { left: parent.left; leftMargin: 18 }
                     y: 16
                     width: 36
                     height: 36
@@ -82,6 +82,7 @@ Rectangle {
                     border { color: Theme.edge; width: 1 }
                 }
                 Rectangle {
+                    anchors.left: parent.left
                     width: 36
                     height: 36
                     radius: Theme.radius
@@ -132,7 +133,7 @@ Rectangle {
                 height: 36
 
                 Rectangle {
-                    anchors.verticalCenter: parent.verticalCenter
+                    anchors { left: parent.left; verticalCenter: parent.verticalCenter }
                     width: 132
                     height: Math.min(panel.view.brushWidth + 2, parent.height)
                     radius: height / 2

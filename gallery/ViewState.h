@@ -21,6 +21,8 @@ class ViewState : public QObject
     Q_PROPERTY(bool edges MEMBER edges NOTIFY Changed)
     Q_PROPERTY(bool original MEMBER original NOTIFY Changed)
     Q_PROPERTY(bool dark MEMBER dark NOTIFY Changed)
+    Q_PROPERTY(bool mainBar MEMBER main_bar NOTIFY Changed)
+    Q_PROPERTY(bool textBar MEMBER text_bar NOTIFY Changed)
     Q_PROPERTY(bool toolStrip MEMBER tool_strip NOTIFY Changed)
     Q_PROPERTY(bool sidePanel MEMBER side_panel NOTIFY Changed)
     Q_PROPERTY(bool statusLine MEMBER status_line NOTIFY Changed)
@@ -49,6 +51,8 @@ public:
     bool edges = true;     ///< The edge of the selection shows.
     bool original = false; ///< The picture without its layer shows.
     bool dark = false;
+    bool main_bar = true;
+    bool text_bar = true;
     bool tool_strip = true;
     bool side_panel = true;
     bool status_line = true;

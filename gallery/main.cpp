@@ -14,6 +14,7 @@
 #include "gallery/resize/ResizeConsole.h"
 #include "gallery/script/KeyScript.h"
 #include "gallery/script/Screenshots.h"
+#include "gallery/script/ToolbarPictures.h"
 #include "gallery/script/Tour.h"
 #include "gallery/storage/PrintMenus.h"
 #include "quick_backend/CVqQuickBitmapPool.h"
@@ -58,29 +59,40 @@ int take_pictures(Gallery::Session& session, QQuickWindow& window, const QString
     return g_cannot_write;
 }
 
-void press_keys(Gallery::Session& session, QQuickWindow& window, const QList<Gallery::KeyPress>& keys)
+void run_steps(Gallery::Session& session, QQuickWindow& window, const QList<Gallery::ScriptStep>& steps)
 {
     Gallery::KeyScript script(session, window);
-    for (const Gallery::KeyPress& key : keys)
-        print(script.Press(key));
+    for (const Gallery::ScriptStep& step : steps)
+        print(script.Do(step));
     script.CloseAll();
+}
+
+int take_toolbar_pictures(Gallery::Session& session, QQuickWindow& window, const QString& folder)
+{
+    const QString error = Gallery::TakeToolbarPictures(session, window, folder);
+    if (error.isEmpty())
+        return 0;
+    print(error, stderr);
+    return g_cannot_write;
 }
 
 int run_tour(Gallery::Session& session, QQuickWindow& window, const QString& folder)
 {
-    const int code = take_pictures(session, window, folder);
-    QList<Gallery::KeyPress> keys;
+    int code = take_pictures(session, window, folder);
+    if (code == 0)
+        code = take_toolbar_pictures(session, window, folder + u"/toolbars"_s);
+    QList<Gallery::ScriptStep> steps;
     for (const QString& name : Gallery::TourKeys(*session.Menu()))
         if (const auto key = Gallery::ParseKeyPress(name))
-            keys << *key;
-    press_keys(session, window, keys);
+            steps << *key;
+    run_steps(session, window, steps);
     return code;
 }
 
 int run_script(Gallery::Session& session, QQuickWindow& window, const Gallery::Options& options)
 {
     Gallery::WaitForFrame(window);
-    press_keys(session, window, options.keys);
+    run_steps(session, window, options.keys);
     const int code = options.screenshots.isEmpty() ? 0 : take_pictures(session, window, options.screenshots);
     if (code != 0 || options.demo.isEmpty())
         return code;
@@ -165,11 +177,12 @@ void print_notices(const Gallery::Session& session)
     tell();
 }
 
-int run(const Gallery::Options& options, const Gallery::MenuDocument& document)
+int run(const Gallery::Options& options, const Gallery::MenuDocument& document,
+        const Gallery::ToolbarDocument& toolbars)
 {
     const Gallery::Translations translations(options.locale);
     CVqQuickBitmapPool pool; // before the menus that show its images
-    Gallery::Session session(document, options.Home());
+    Gallery::Session session(document, options.Home(), toolbars);
     print_notices(session);
     session.SetPage(options.page);
     Gallery::LiveAddresses addresses;
@@ -190,6 +203,30 @@ int run(const Gallery::Options& options, const Gallery::MenuDocument& document)
     return QGuiApplication::exec();
 }
 
+/// Reads a menu or toolbar file, or that of the factory; tells what is wrong with it.
+template <class File>
+bool load(File& file, const QString& name, const QString& factory)
+{
+    if (file.Load(name.isEmpty() ? factory : name))
+        return true;
+    print(file.Error(), stderr);
+    return false;
+}
+
+/// What the application needs before there is a window.
+void prepare(const Gallery::Options& options)
+{
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(g_text_size);
+    QGuiApplication::setFont(font);
+    if (options.rtl)
+        QGuiApplication::setLayoutDirection(Qt::RightToLeft);
+    if (!options.qml.isEmpty())
+        Gallery::ReadQmlFrom(options.qml);
+    Gallery::AddRegistrators();
+    Quick::Register::Init();
+}
+
 }
 
 int main(int argc, char** argv)
@@ -205,24 +242,18 @@ int main(int argc, char** argv)
     if (!result.options.resize.in.isEmpty())
         return resize(argc, argv, result.options);
     Gallery::MenuFile file;
-    if (!file.Load(result.options.menus.isEmpty() ? u":/gallery/menus.json"_s : result.options.menus)) {
-        print(file.Error(), stderr);
+    Gallery::ToolbarFile toolbars;
+    if (!load(file, result.options.menus, u":/gallery/menus.json"_s)
+        || !load(toolbars, result.options.toolbars, u":/gallery/toolbars.json"_s))
         return g_bad_file;
-    }
     if (result.options.print_keys)
         return print_keys(argc, argv, result.options, file.Document());
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL); // what pages are drawn with
     const QGuiApplication application(argc, argv);
-    QFont font = QGuiApplication::font();
-    font.setPixelSize(g_text_size);
-    QGuiApplication::setFont(font);
-    if (!result.options.qml.isEmpty())
-        Gallery::ReadQmlFrom(result.options.qml);
-    Gallery::AddRegistrators();
-    Quick::Register::Init();
+    prepare(result.options);
     if (!result.options.render.file.isEmpty())
         return render(result.options, file.Document());
-    const int code = run(result.options, file.Document());
+    const int code = run(result.options, file.Document(), toolbars.Document());
     if (code != 0 || result.options.demo.isEmpty())
         return code;
     return take_page_pictures(result.options, file.Document());

@@ -2,7 +2,7 @@ import QtQuick
 import QtQuick.Layouts
 import K7.Arbor.Gallery
 
-// The picture with its tools and its side panel: what most commands of the menu work on.
+// The picture with its side panel: what most commands of the menu work on.
 FocusScope {
     implicitWidth: 1180
     implicitHeight: 664
@@ -11,10 +11,6 @@ FocusScope {
         anchors.fill: parent
         spacing: 0
 
-        ToolStrip {
-            Layout.fillHeight: true
-            visible: Session.view.toolStrip
-        }
         PictureArea {
             id: canvas
 

@@ -107,20 +107,6 @@ std::optional<KeyPress> ParseKeyPress(const QString& name)
     return press;
 }
 
-std::optional<QList<KeyPress>> ParseKeyPresses(const QString& names, QString& bad)
-{
-    QList<KeyPress> presses;
-    for (const QString& name : names.split(u',')) {
-        const std::optional<KeyPress> press = ParseKeyPress(name.trimmed());
-        if (!press) {
-            bad = name.trimmed();
-            return std::nullopt;
-        }
-        presses << *press;
-    }
-    return presses;
-}
-
 void SendKeyPress(const KeyPress& press, QWindow& window)
 {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QList>
 #include <QString>
 
 #include <optional>
@@ -24,9 +23,6 @@ struct KeyPress
 /// character, "F1" to "F24", "Num0" to "Num9", or a word such as "Enter", "Left", "PageUp", "Comma", "Plus",
 /// "BracketLeft"; data/README.md lists them. Case does not matter. None for a name that is no key.
 std::optional<KeyPress> ParseKeyPress(const QString& name);
-
-/// Reads key names separated by commas. None when a name is no key; `bad` is then that name.
-std::optional<QList<KeyPress>> ParseKeyPresses(const QString& names, QString& bad);
 
 /// Sends press and release to `window`, as the platform does.
 void SendKeyPress(const KeyPress& press, QWindow& window);

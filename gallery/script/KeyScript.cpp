@@ -19,19 +19,37 @@ constexpr int g_most_levels = 32; // presses of Esc that surely leave every menu
 
 QString KeyScript::Press(const KeyPress& press)
 {
-    const QList<vq_uint32> before = OpenPopups();
-    const QString fired = fire(press);
-    if (!fired.isEmpty())
-        return u"%1 -> %2"_s.arg(press.name, fired);
-    if (!m_told.isEmpty())
-        return u"%1 -> %2"_s.arg(press.name, m_told);
-    for (const vq_uint32 popup : OpenPopups())
-        if (!before.contains(popup))
-            return u"%1 -> opens popup %2"_s.arg(press.name, PlainLabel(*m_session.Menu(), popup));
-    return u"%1 -> no command"_s.arg(press.name);
+    return tell(press.name, [&] { SendKeyPress(press, m_window); });
 }
 
-QString KeyScript::fire(const KeyPress& press)
+QString KeyScript::Move(const MouseStep& step)
+{
+    bool is_there = true;
+    const QString told = tell(step.name, [&] { is_there = SendMouseStep(step, m_session, m_window); });
+    return is_there ? told : u"%1 -> nothing to see"_s.arg(step.name);
+}
+
+QString KeyScript::Do(const ScriptStep& step)
+{
+    const KeyPress* press = std::get_if<KeyPress>(&step);
+    return press ? Press(*press) : Move(std::get<MouseStep>(step));
+}
+
+QString KeyScript::tell(const QString& name, const std::function<void()>& act)
+{
+    const QList<vq_uint32> before = OpenPopups();
+    const QString fired = fire(act);
+    if (!fired.isEmpty())
+        return u"%1 -> %2"_s.arg(name, fired);
+    if (!m_told.isEmpty())
+        return u"%1 -> %2"_s.arg(name, m_told);
+    for (const vq_uint32 popup : OpenPopups())
+        if (!before.contains(popup))
+            return u"%1 -> opens popup %2"_s.arg(name, PlainLabel(*m_session.Menu(), popup));
+    return u"%1 -> no command"_s.arg(name);
+}
+
+QString KeyScript::fire(const std::function<void()>& act)
 {
     QString fired;
     m_told.clear();
@@ -41,7 +59,7 @@ QString KeyScript::fire(const KeyPress& press)
     const KeyEditor* editor = m_session.GetKeyEditor();
     QObject::connect(editor, &KeyEditor::Changed, &listener,
                      [this, editor] { m_told = editor->Question() + editor->Told(); });
-    SendKeyPress(press, m_window);
+    act();
     QCoreApplication::processEvents();
     return fired;
 }

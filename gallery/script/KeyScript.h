@@ -1,7 +1,9 @@
 #pragma once
 
-#include "gallery/script/KeyPress.h"
+#include "gallery/script/ScriptStep.h"
 #include "system/VqTypes.h"
+
+#include <functional>
 
 QT_BEGIN_NAMESPACE
 class QQuickWindow;
@@ -11,7 +13,7 @@ namespace Gallery {
 
 class Session;
 
-/// Presses keys in the window and tells what each did.
+/// Presses keys in the window, moves the mouse in it, and tells what each did.
 class KeyScript
 {
 public:
@@ -26,6 +28,12 @@ public:
     ///     Ctrl+K -> Blur has the key Ctrl+K now.
     QString Press(const KeyPress& press);
 
+    /// The same with the mouse. What does not show is "nothing to see".
+    QString Move(const MouseStep& step);
+
+    /// Either of them.
+    QString Do(const ScriptStep& step);
+
     /// Identifiers of the open popups of the window.
     QList<vq_uint32> OpenPopups() const;
 
@@ -33,7 +41,8 @@ public:
     void CloseAll();
 
 private:
-    QString fire(const KeyPress& press);
+    QString tell(const QString& name, const std::function<void()>& act);
+    QString fire(const std::function<void()>& act);
 
     Session& m_session;
     QQuickWindow& m_window;

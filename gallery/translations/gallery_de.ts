@@ -7,6 +7,18 @@
         <source>%1 - Arbor Gallery</source>
         <translation>%1 - Arbor Galerie</translation>
     </message>
+    <message>
+        <source>Main bar</source>
+        <translation>Hauptleiste</translation>
+    </message>
+    <message>
+        <source>Text bar</source>
+        <translation>Textleiste</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
 </context>
 <context>
     <name>Pages</name>
@@ -584,6 +596,35 @@
     <message>
         <source>The stored menus in %1 cannot be read, so the factory menus were loaded and nothing is stored.</source>
         <translation>Die gespeicherten Menüs in %1 sind nicht lesbar, darum sind die Werksmenüs geladen, und gespeichert wird nichts.</translation>
+    </message>
+</context>
+<context>
+    <name>Gallery::ToolbarKeeper</name>
+    <message>
+        <source>The toolbars cannot be stored in %1 (%2), so changes to them last until the program ends.</source>
+        <translation>Die Symbolleisten lassen sich nicht in %1 speichern (%2); Änderungen an ihnen gelten, bis das Programm endet.</translation>
+    </message>
+    <message>
+        <source>The stored toolbars cannot be read, so they were set aside as %1 and the factory toolbars loaded.</source>
+        <translation>Die gespeicherten Symbolleisten sind nicht lesbar und wurden als %1 beiseite gelegt, die Werksleisten sind geladen.</translation>
+    </message>
+    <message>
+        <source>The stored toolbars in %1 cannot be read, so the factory toolbars were loaded and nothing is stored.</source>
+        <translation>Die gespeicherten Symbolleisten in %1 sind nicht lesbar, darum sind die Werksleisten geladen, und gespeichert wird nichts.</translation>
+    </message>
+</context>
+<context>
+    <name>ColourField</name>
+    <message>
+        <source>Foreground colour: %1</source>
+        <translation>Vordergrundfarbe: %1</translation>
+    </message>
+</context>
+<context>
+    <name>ZoomSlider</name>
+    <message>
+        <source>Zoom</source>
+        <translation>Zoom</translation>
     </message>
 </context>
 <context>
@@ -2402,6 +2443,42 @@
     <message>
         <source>Before and After</source>
         <translation>Vorher und nachher</translation>
+    </message>
+    <message>
+        <source>&amp;Toolbars</source>
+        <translation>Symbolleisten</translation>
+    </message>
+    <message>
+        <source>&amp;Main Bar</source>
+        <translation>Hauptleiste</translation>
+    </message>
+    <message>
+        <source>Text &amp;Bar</source>
+        <translation>Textleiste</translation>
+    </message>
+    <message>
+        <source>&amp;Customise Toolbars...</source>
+        <translation>Symbolleisten anpassen...</translation>
+    </message>
+    <message>
+        <source>Main Bar</source>
+        <translation>Hauptleiste</translation>
+    </message>
+    <message>
+        <source>Text Bar</source>
+        <translation>Textleiste</translation>
+    </message>
+    <message>
+        <source>Tools</source>
+        <translation>Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Zoom Slider</source>
+        <translation>Zoomregler</translation>
+    </message>
+    <message>
+        <source>Colour Field</source>
+        <translation>Farbfeld</translation>
     </message>
 </context>
 </TS>

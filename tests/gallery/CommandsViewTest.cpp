@@ -46,6 +46,8 @@ INSTANTIATE_TEST_SUITE_P(CommandsView, ViewSwitches,
                                          SwitchRow{"ViewRulers", &ViewState::rulers},
                                          SwitchRow{"SelectEdges", &ViewState::edges},
                                          SwitchRow{"ViewToolStrip", &ViewState::tool_strip},
+                                         SwitchRow{"ViewToolbar(main)", &ViewState::main_bar},
+                                         SwitchRow{"ViewToolbar(text)", &ViewState::text_bar},
                                          SwitchRow{"ViewSidePanel", &ViewState::side_panel},
                                          SwitchRow{"ViewStatusLine", &ViewState::status_line},
                                          SwitchRow{"ViewFullScreen", &ViewState::full_screen},
@@ -119,6 +121,16 @@ TEST_F(CommandsView, TheBrushStaysBetweenOneAndTwoHundredPixels)
     run(u"BrushWidth(200)"_s);
     run(u"BrushLarger"_s);
     EXPECT_EQ(m_view.brush_width, 200);
+}
+
+TEST_F(CommandsView, CustomisingIsAskedFor)
+{
+    int asked = 0;
+    QObject::connect(&m_commands, &Gallery::Commands::CustomiseRequested, [&asked] { ++asked; });
+
+    run(u"ViewCustomiseToolbars"_s);
+
+    EXPECT_EQ(asked, 1);
 }
 
 TEST_F(CommandsView, BeforeAndAfterTakeTurns)

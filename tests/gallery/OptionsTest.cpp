@@ -73,6 +73,25 @@ TEST(Options, KeysPicturesAndTourAreScripts)
     EXPECT_TRUE(parse({u"--demo=out"_s}).options.IsScript());
 }
 
+TEST(Options, ToolbarsAndRightToLeftAreTaken)
+{
+    const OptionsResult result = parse({u"--toolbars"_s, u"bars.json"_s, u"--rtl"_s});
+
+    EXPECT_EQ(result.exit_code, -1);
+    EXPECT_EQ(result.options.toolbars, u"bars.json"_s);
+    EXPECT_TRUE(result.options.rtl);
+    EXPECT_FALSE(parse({}).options.rtl);
+}
+
+TEST(Options, KeysMayHoldStepsOfTheMouse)
+{
+    const OptionsResult result = parse({u"--keys"_s, u"Ctrl+S,@drag main/EditCut main/FileNew"_s});
+
+    EXPECT_EQ(result.exit_code, -1);
+    ASSERT_EQ(result.options.keys.size(), 2);
+    EXPECT_EQ(std::get<Gallery::MouseStep>(result.options.keys[1]).to, u"main/FileNew"_s);
+}
+
 TEST(Options, JapaneseIsALocale)
 {
     const OptionsResult result = parse({u"--locale=ja"_s});
@@ -86,9 +105,10 @@ TEST(Options, HelpNamesEveryOptionAndEndsWithZero)
     const OptionsResult result = parse({u"--help"_s});
 
     EXPECT_EQ(result.exit_code, 0);
-    for (const QString& option : {u"--keys"_s, u"--screenshots"_s, u"--demo"_s, u"--locale"_s, u"--menus"_s,
-                                  u"--page"_s, u"--qml"_s, u"--data"_s, u"--print-menus"_s, u"--print-keys"_s,
-                                  u"--render"_s, u"--out"_s, u"--size"_s, u"--set"_s})
+    for (const QString& option :
+         {u"--keys"_s, u"--screenshots"_s, u"--demo"_s, u"--locale"_s, u"--menus"_s, u"--page"_s, u"--qml"_s,
+          u"--data"_s, u"--print-menus"_s, u"--print-keys"_s, u"--render"_s, u"--out"_s, u"--size"_s,
+          u"--set"_s, u"--toolbars"_s, u"--rtl"_s, u"--print-toolbars"_s})
         EXPECT_TRUE(result.message.contains(option)) << option.toStdString();
 }
 
@@ -106,6 +126,7 @@ TEST(Options, StoredMenusAndKeysArePrintedWithoutAScript)
     const OptionsResult keys = parse({u"--print-keys"_s});
 
     EXPECT_EQ(menus.options.print_menus, u"a.cbor"_s);
+    EXPECT_EQ(parse({u"--print-toolbars"_s, u"b.cbor"_s}).options.print_menus, u"b.cbor"_s);
     EXPECT_FALSE(menus.options.print_keys);
     EXPECT_EQ(keys.exit_code, -1);
     EXPECT_TRUE(keys.options.print_keys);
@@ -123,8 +144,8 @@ TEST(Options, AWindowThatStaysOpenKeepsItsMenusInTheUsersFolder)
 
 TEST(Options, ScriptsAndOtherMenusKeepNone)
 {
-    for (const QString& option :
-         {u"--keys=F1"_s, u"--screenshots=out"_s, u"--demo=out"_s, u"--menus=m.json"_s})
+    for (const QString& option : {u"--keys=F1"_s, u"--screenshots=out"_s, u"--demo=out"_s,
+                                  u"--menus=m.json"_s, u"--toolbars=b.json"_s})
         EXPECT_EQ(parse({option}).options.Home().folder, QString()) << option.toStdString();
 }
 
@@ -160,6 +181,9 @@ INSTANTIATE_TEST_SUITE_P(
         BadRow{"EmptyFile", {u"--menus"_s, u""_s}, "Missing value after '--menus'."},
         BadRow{"EmptyData", {u"--data="_s}, "Missing value after '--data'."},
         BadRow{"DataWithAMenu", {u"--data=d"_s, u"--menus=m.json"_s}, "--data does not go with --menus."},
+        BadRow{"DataWithToolbars",
+               {u"--data=d"_s, u"--toolbars=b.json"_s},
+               "--data does not go with --toolbars."},
         BadRow{"DataWithAPicture",
                {u"--data=d"_s, u"--render=a.qml"_s, u"--out=a.png"_s},
                "--data does not go with --render."},

@@ -1,6 +1,7 @@
 #include "gallery/Session.h"
 
 #include "gallery/Pages.h"
+#include "quick_backend/CVqQuickMenuItem.h"
 #include "tests/gallery/RealMenu.h"
 
 #include <gtest/gtest.h>
@@ -202,4 +203,37 @@ TEST_F(SessionTest, QuitIsHandedOn)
     m_session.choose(u"FileQuit"_s);
 
     EXPECT_TRUE(asked);
+}
+
+TEST_F(SessionTest, AZoomOfItsOwnTakesTheMarkFromThePresets)
+{
+    m_session.zoomTo(73);
+
+    EXPECT_DOUBLE_EQ(m_session.View()->zoom, 73);
+    EXPECT_EQ(status_of(u"ViewZoomFit"_s) & 2, 0u);
+}
+
+TEST_F(SessionTest, ThePopupOfACommandIsOpened)
+{
+    int x = 0;
+    const CVqQuickMenuRows* opened = nullptr;
+    QObject::connect(m_session.Menu(), &CVqQuickMenu::contextMenuRequested,
+                     [&](CVqQuickMenuRows* rows, int at, int) {
+                         opened = rows;
+                         x = at;
+                     });
+
+    m_session.openPopupOf(u"ColorForeground(#1b1b1f)"_s, 7, 8);
+
+    ASSERT_TRUE(opened);
+    EXPECT_EQ(opened->ItemAt(0)->parentItem()->id(), 1733u);
+    EXPECT_EQ(x, 7);
+}
+
+TEST_F(SessionTest, TheToolbarsCanBeShownAndHidden)
+{
+    m_session.choose(u"ViewToolbar(text)"_s);
+
+    EXPECT_FALSE(m_session.View()->text_bar);
+    EXPECT_TRUE(m_session.View()->main_bar);
 }

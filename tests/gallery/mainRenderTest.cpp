@@ -214,12 +214,12 @@ TEST_F(ArborGalleryRender, ItsOwnPageIsComplete)
 
 TEST_F(ArborGalleryRender, ACompiledFileGoesByItsAddress)
 {
-    const Outcome result = run({u"--render"_s, u"qrc:///qt/qml/K7/Arbor/Gallery/ToolIcon.qml"_s, u"--out"_s,
-                                OutPath(), u"--set"_s, u"tool=brush"_s, u"--set"_s, u"color=#ff0000"_s});
+    const Outcome result = run({u"--render"_s, u"qrc:///qt/qml/K7/Arbor/Gallery/FileIcon.qml"_s, u"--out"_s,
+                                OutPath(), u"--set"_s, u"folder=true"_s, u"--set"_s, u"color=#ff0000"_s});
 
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, QString());
-    EXPECT_EQ(QImage(OutPath()).size(), QSize(24, 24));
+    EXPECT_EQ(QImage(OutPath()).size(), QSize(18, 18));
     EXPECT_GT(colors_in(QImage(OutPath())), 3);
 }
 

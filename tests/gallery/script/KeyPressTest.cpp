@@ -69,37 +69,6 @@ INSTANTIATE_TEST_SUITE_P(KeyPress, NoKeyNames,
                          testing::Values("", "Ctrl+", "Ctrl", "Hyper+A", "F0", "F25", "Num10", "Wobble",
                                          " "));
 
-TEST(KeyPress, ListsAreCutAtCommas)
-{
-    QString bad;
-
-    const auto presses = Gallery::ParseKeyPresses(u"Ctrl+S, Alt+F,Ctrl+Comma"_s, bad);
-
-    ASSERT_TRUE(presses);
-    ASSERT_EQ(presses->size(), 3);
-    EXPECT_EQ(presses->at(1).name, u"Alt+F"_s);
-    EXPECT_EQ(presses->at(2).key, Qt::Key_Comma);
-    EXPECT_TRUE(bad.isEmpty());
-}
-
-TEST(KeyPress, ABadNameInAListIsToldAndNothingIsGiven)
-{
-    QString bad;
-
-    EXPECT_FALSE(Gallery::ParseKeyPresses(u"Ctrl+S,Wobble,Alt+F"_s, bad));
-
-    EXPECT_EQ(bad, u"Wobble"_s);
-}
-
-TEST(KeyPress, NothingBetweenCommasIsNoKey)
-{
-    QString bad;
-
-    EXPECT_FALSE(Gallery::ParseKeyPresses(u""_s, bad));
-    EXPECT_FALSE(Gallery::ParseKeyPresses(u"Ctrl+S,,Alt+F"_s, bad));
-    EXPECT_FALSE(Gallery::ParseKeyPresses(u"Ctrl+S,"_s, bad));
-}
-
 namespace {
 
 class ListeningWindow : public QWindow
