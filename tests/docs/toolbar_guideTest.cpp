@@ -37,7 +37,7 @@ protected:
 
 TEST_F(ToolbarGuide, AButtonShowsWhatItsCommandSays)
 {
-    m_menu.EnableItem(2, false);
+    m_menu.EnableId(2, false);
 
     EXPECT_FALSE(Control(VQ_TEXT("open")).IsEnabledNow());
     EXPECT_TRUE(Control(VQ_TEXT("play")).IsEnabledNow());
