@@ -132,8 +132,11 @@ CVqQuickControl* CVqQuickToolbarSetup::put_new(IVqUIcontrol* made, CVqQuickButto
                                                CVqQuickControl* before)
 {
     auto* control = dynamic_cast<CVqQuickControl*>(made);
-    if (!control)
+    if (!control) {
+        if (made)
+            made->MarkToDeleteItself();
         return nullptr;
+    }
     touch(*control);
     VqPutIn(bar, *control, before);
     if (!is_separator(*control))
@@ -177,8 +180,7 @@ bool CVqQuickToolbarSetup::remove(CVqQuickControl* control)
     return true;
 }
 
-// Back to the factory's state
-// --------------------------------------------------------------------------------
+// Back to the factory's state ----------------------------------------------------------------------------
 
 void CVqQuickToolbarSetup::reset()
 {

@@ -7,6 +7,19 @@
 #include <algorithm>
 #include <utility>
 
+namespace {
+
+// A record holds the name of its bar beside the controls.
+int count_controls(const CVqVariant& record)
+{
+    int count = 0;
+    for (int i = 0; i < record.GetCount(); ++i)
+        count += record.IndexPtr(i)->GetName() != VQ_TEXT("ToolbarName");
+    return count;
+}
+
+}
+
 CVqToolbarReset::CVqToolbarReset(std::vector<SVqCustomisedBar*> bars, TouchFunction touch)
     : m_bars(std::move(bars)), m_touch(std::move(touch))
 { }
@@ -15,7 +28,7 @@ std::vector<CVqQuickButtonToolbar*> CVqToolbarReset::Run()
 {
     std::vector<SVqCustomisedBar*> rebuilt;
     for (SVqCustomisedBar* bar : m_bars)
-        if (bar->m_factory.GetCount() <= SVqCustomisedBar::MaxRecords)
+        if (count_controls(bar->m_factory) <= SVqCustomisedBar::MaxRecords)
             rebuilt.push_back(bar);
     for (const SVqCustomisedBar* bar : rebuilt)
         rebuild(*bar);

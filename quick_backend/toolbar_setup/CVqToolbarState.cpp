@@ -29,8 +29,9 @@ bool CVqToolbarState::Held(const CVqQuickControl& control) const
 
 bool CVqToolbarState::IsOrderKept() const
 {
-    const auto is_same
-        = [](const SVqPlace& place, const CVqQuickControl* control) { return place.m_control == control; };
+    const auto is_same = [](const SVqPlace& place, const CVqQuickControl* control) {
+        return place.m_control == control && place.m_name == control->Name();
+    };
     const auto now = VqControlsOf(*m_bar);
     return std::equal(m_places.begin(), m_places.end(), now.begin(), now.end(), is_same);
 }

@@ -24,7 +24,7 @@ public:
     /// Whether `control` was on the bar then.
     bool Held(const CVqQuickControl& control) const;
 
-    /// Whether the bar holds the same controls in the same order.
+    /// Whether the bar holds the same controls in the same order, under the names that they had.
     bool IsOrderKept() const;
 
     /// Puts the controls back on the bar, which is empty. No bar holds any of them.

@@ -7,6 +7,21 @@ namespace {
 class CVqQuickToolbarSetupChanges : public SetupSession
 { };
 
+/// A bar whose separators are not made for Qt Quick.
+class ForeignBar final : public CVqQuickButtonToolbar
+{
+public:
+    using CVqQuickButtonToolbar::CVqQuickButtonToolbar;
+
+    IVqUIcontrol* CreateSeparator() override
+    {
+        made = new CVqAbstractControl;
+        return made;
+    }
+
+    QPointer<CVqAbstractControl> made;
+};
+
 bool rename_commands(unsigned id, __vq_hwnd*, CVqStringW& text)
 {
     text = VQ_TEXT("Insert");
@@ -146,6 +161,20 @@ TEST_F(CVqQuickToolbarSetupChanges, ANameThatIsTakenGetsANumberUntilTheSessionIs
     EXPECT_EQ(Named(second, "open"), other);
 }
 
+TEST_F(CVqQuickToolbarSetupChanges, CancelGivesTheNameBackToWhatWentThereAndBack)
+{
+    CVqQuickControl* other = Add(second, "open", "Other");
+    setup->accept();
+    setup->begin();
+
+    setup->move(other, &first, nullptr);
+    setup->move(other, &second, nullptr);
+    ASSERT_EQ(Order(second), "cut copy open2");
+    setup->cancel();
+
+    EXPECT_EQ(Order(second), "cut copy open");
+}
+
 TEST_F(CVqQuickToolbarSetupChanges, AMovedButtonIsShownThereAsItWasHere)
 {
     VQ_SetToolbarButtonAsHidden(VQ_TEXT("second"), VQ_TEXT("save"), true, false);
@@ -249,6 +278,17 @@ TEST_F(CVqQuickToolbarSetupChanges, SeparatorsComeAndGo)
     EXPECT_EQ(Order(second), "cut copy");
     EXPECT_FALSE(setup->remove(separator));
     EXPECT_FALSE(setup->addSeparator(&second, separator));
+}
+
+TEST_F(CVqQuickToolbarSetupChanges, WhatIsMadeButNotDrawnByQtQuickIsNotAddedAndDies)
+{
+    ForeignBar foreign(VQ_TEXT("foreign"));
+    setup->AddToolbar(foreign, CVqVariant());
+
+    EXPECT_FALSE(setup->addSeparator(&foreign, nullptr));
+
+    EXPECT_FALSE(foreign.made);
+    EXPECT_EQ(Order(foreign), "");
 }
 
 TEST_F(CVqQuickToolbarSetupChanges, AGeneralControlIsHiddenInsteadOfRemoved)

@@ -10,8 +10,6 @@ class CVqQuickToolbarSetupReset : public SetupSession
 
 }
 
-// --------------------------------------------------------------------------------
-
 TEST_F(CVqQuickToolbarSetupReset, ResetPutsTheFactoryStateBackAndShowsAll)
 {
     setup->setShown(Named(first, "open"), false);

@@ -143,6 +143,16 @@ TEST_F(CVqToolbarResetTest, ARecordOfMoreThanAHundredControlsLeavesItsBarAsItIs)
     EXPECT_EQ(Everything(), before);
 }
 
+TEST_F(CVqToolbarResetTest, TheNameInARecordOfAHundredControlsIsNoControl)
+{
+    first_bar.m_factory = CVqVariant();
+    first_bar.m_factory.Append(CVqVariant(VQ_TEXT("first"), VQ_TEXT("ToolbarName")));
+    for (int i = 0; i < 100; ++i)
+        first_bar.m_factory.Append(CVqVariant(VQ_TEXT("Separator"), VQ_TEXT("a00")));
+
+    EXPECT_THAT(Reset(), ElementsAre(&first, &second));
+}
+
 TEST_F(CVqToolbarResetTest, DeletesNothing)
 {
     const QPointer<CVqQuickControl> undo = Named(first, "undo");

@@ -49,6 +49,13 @@ TEST_F(CVqToolbarStateTest, NoticesAnotherOrder)
     EXPECT_FALSE(state.IsOrderKept());
 }
 
+TEST_F(CVqToolbarStateTest, NoticesAnotherName)
+{
+    VqRename(*Named(first, "open"), u"other"_s);
+
+    EXPECT_FALSE(state.IsOrderKept());
+}
+
 TEST_F(CVqToolbarStateTest, PutsTheVeryControlsBackUnderTheirNames)
 {
     const auto before = VqControlsOf(first);
