@@ -1,8 +1,8 @@
 #pragma once
 
-// QML: ToolbarDrag { setup: theSetup }, used by ToolbarDragLayer. Properties `lifted`, `control`, `command`,
-// `place`, `mark`, `removes`; functions lift(), liftCommand(), moveTo(), drop(), cancel(), toolbarOf(),
-// picturedItem().
+// QML: ToolbarDrag { setup: theSetup }, used by ToolbarDragLayer. Properties `areas`, `lifted`, `control`,
+// `command`, `place`, `mark`, `removes`; functions lift(), liftCommand(), moveTo(), drop(), cancel(),
+// toolbarOf(), picturedItem().
 
 #include "arbor_quick_backend_export.h"
 #include "quick_backend/toolbar/CVqQuickToolbarArea.h"

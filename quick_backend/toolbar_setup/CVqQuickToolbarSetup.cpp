@@ -39,8 +39,11 @@ void CVqQuickToolbarSetup::AddToolbar(CVqQuickButtonToolbar& bar, const CVqVaria
 
 void CVqQuickToolbarSetup::forget_lost_bars()
 {
-    std::erase_if(m_bars, [](const auto& bar) { return !bar->m_bar; });
-    m_current = std::min(m_current, int(m_bars.size()) - 1);
+    const auto is_lost = [](const auto& bar) { return !bar->m_bar; };
+    const auto lost_in_front
+        = m_current < 0 ? 0 : std::count_if(m_bars.begin(), m_bars.begin() + m_current, is_lost);
+    std::erase_if(m_bars, is_lost);
+    m_current = std::min(m_current - int(lost_in_front), int(m_bars.size()) - 1);
     Q_EMIT toolbarsChanged();
     Q_EMIT currentChanged();
 }

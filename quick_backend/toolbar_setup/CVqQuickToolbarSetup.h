@@ -35,7 +35,7 @@ struct SVqCustomisedBar;
 /// there would be no way to get it back.
 ///
 /// Knows of controls that Qt Quick draws; others in a bar come to stand in front of them when it is put back.
-/// GUI thread only.
+/// A reset loads the bars anew, which deletes those others for good. GUI thread only.
 ///
 ///     CVqQuickToolbarSetup setup;
 ///     setup.AddToolbar(bar, factory, tr("Main"));
@@ -108,8 +108,7 @@ public:
     CVqQuickControl* Control() const { return m_control; }
     void SetControl(CVqQuickControl* control);
 
-    // Changes: false, or null, when nothing was done
-    // ----------------------------------------------------------
+    // Changes: false, or null, when nothing was done --------------------------------------------------------
 
     /// The bar that holds `control`, or null; the picker of a bar is held by none.
     Q_INVOKABLE CVqQuickButtonToolbar* toolbarOf(CVqQuickControl* control) const;

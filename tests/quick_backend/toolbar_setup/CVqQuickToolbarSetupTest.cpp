@@ -96,6 +96,21 @@ TEST_F(CVqQuickToolbarSetupTest, ThereIsNoBarBeyondTheRange)
     EXPECT_EQ(setup->Current(), 0);
 }
 
+TEST_F(CVqQuickToolbarSetupTest, TheChosenBarStaysChosenWhenOneInFrontOfItEnds)
+{
+    auto front = std::make_unique<CVqQuickButtonToolbar>(VQ_TEXT("front"));
+    CVqQuickToolbarSetup three;
+    three.AddToolbar(*front, CVqVariant());
+    three.AddToolbar(first, CVqVariant());
+    three.AddToolbar(second, CVqVariant());
+    three.SetControl(Named(first, "save"));
+
+    front.reset();
+
+    EXPECT_EQ(three.CurrentToolbar(), &first);
+    EXPECT_EQ(three.Control(), Named(first, "save"));
+}
+
 // The session --------------------------------------------------------------------------------------------
 
 TEST_F(CVqQuickToolbarSetupTest, ButtonsAreDraggedInASessionAndNotAfterwards)
