@@ -20,26 +20,29 @@ struct SVqSlot
     QRectF m_rect;
 };
 
-// From the area to reading coordinates and, since it only swaps and mirrors, back.
+// Between the area and reading coordinates. The area mirrors what stands in its columns, too.
 class CVqReading
 {
 public:
     explicit CVqReading(const CVqQuickToolbarArea& area)
-        : m_vertical(area.IsVertical()),
-          m_mirrored(area.IsMirrored() && !area.IsVertical()),
-          m_width(area.width())
+        : m_vertical(area.IsVertical()), m_mirrored(area.IsMirrored()), m_width(area.width())
     { }
 
-    QRectF Turn(const QRectF& rect) const
+    QRectF FromArea(const QRectF& rect) const { return Swap(Mirror(rect)); }
+    QPointF FromArea(QPointF point) const { return FromArea(QRectF(point, QSizeF(0, 0))).topLeft(); }
+    QRectF ToArea(const QRectF& rect) const { return Mirror(Swap(rect)); }
+
+private:
+    QRectF Mirror(const QRectF& rect) const
     {
-        if (m_vertical)
-            return {rect.y(), rect.x(), rect.height(), rect.width()};
         return m_mirrored ? QRectF(m_width - rect.right(), rect.y(), rect.width(), rect.height()) : rect;
     }
 
-    QPointF Turn(QPointF point) const { return Turn(QRectF(point, QSizeF(0, 0))).topLeft(); }
+    QRectF Swap(const QRectF& rect) const
+    {
+        return m_vertical ? QRectF(rect.y(), rect.x(), rect.height(), rect.width()) : rect;
+    }
 
-private:
     const bool m_vertical;
     const bool m_mirrored;
     const qreal m_width;
@@ -54,7 +57,7 @@ std::vector<SVqSlot> slots_of(CVqQuickToolbar& toolbar, const CVqQuickToolbarAre
         if (!control || !control->IsShown() || !control->Item() || control->IsInPicker() != area.IsInPicker())
             continue;
         const QQuickItem& item = *control->Item();
-        found.push_back({control, reading.Turn(QRectF(item.position(), item.size()))});
+        found.push_back({control, reading.FromArea(QRectF(item.position(), item.size()))});
     }
     return found;
 }
@@ -92,10 +95,10 @@ void widen_single_row(std::vector<SVqSlot>& slots, qreal breadth)
 SVqToolbarPlace VqToolbarPlace(CVqQuickToolbar& toolbar, const CVqQuickToolbarArea& area, QPointF point)
 {
     const CVqReading reading(area);
-    const QSizeF size = reading.Turn(QRectF(QPointF(), area.size())).size();
+    const QSizeF size = reading.FromArea(QRectF(QPointF(), area.size())).size();
     auto slots = slots_of(toolbar, area, reading);
     widen_single_row(slots, size.height());
-    const QPointF at = reading.Turn(point);
+    const QPointF at = reading.FromArea(point);
     const auto next = std::find_if(slots.begin(), slots.end(),
                                    [at](const SVqSlot& slot) { return lies_before(at, slot); });
     SVqToolbarPlace place;
@@ -109,6 +112,6 @@ SVqToolbarPlace VqToolbarPlace(CVqQuickToolbar& toolbar, const CVqQuickToolbarAr
         mark = mark_at((next - 1)->m_rect.right() + 0.5, (next - 1)->m_rect);
     else if (next != slots.end())
         mark = mark_at(next->m_rect.left() - 0.5, next->m_rect);
-    place.m_mark = reading.Turn(mark);
+    place.m_mark = reading.ToArea(mark);
     return place;
 }

@@ -10,11 +10,14 @@ class CVqQuickToolbarArea;
 /// A place between the controls of an area, into which something is dropped.
 struct SVqToolbarPlace
 {
-    CVqQuickControl* m_behind
-        = nullptr; ///< The shown control of the area that it lies behind; null for the first.
-    CVqQuickControl* m_before
-        = nullptr; ///< The shown control of the area that it lies before; null at the end.
-    QRectF m_mark; ///< Where to mark it, in logical pixels of the area.
+    /// The shown control of the area that it lies behind; null at the beginning.
+    CVqQuickControl* m_behind = nullptr;
+
+    /// The shown control of the area that it lies before; null at the end.
+    CVqQuickControl* m_before = nullptr;
+
+    /// Where to mark it, in logical pixels of the area.
+    QRectF m_mark;
 };
 
 /// The place that is nearest to a point of `area`, in its reading order: along rows, or columns of an upright

@@ -134,3 +134,25 @@ TEST_F(VqToolbarPlaceTest, ThePickerShowsItsOwnControlsLineByLine)
     EXPECT_EQ(Name(place.m_behind), "zoom");
     EXPECT_EQ(Name(place.m_before), "undo");
 }
+
+TEST_F(VqToolbarPlaceTest, ThePickerOfAMirroredUprightBarIsReadColumnByColumnFromTheRight)
+{
+    for (int number = 10; number < 30; ++number)
+        Add(second, ("button" + std::to_string(number)).c_str(), "");
+    second.Area()->SetMirrored(true);
+    second.Area()->setSize({60, 40});
+    second.Toolbar().Layout();
+    CVqQuickPicker& picker = *second.Toolbar().Picker();
+    picker.Popup().Layout();
+    picker.Area()->setSize({picker.Area()->implicitWidth(), picker.Area()->implicitHeight()});
+    const QRectF last = Rect(Named(second, "button29"));
+    ASSERT_LT(last.right(), Rect(Named(second, "button10")).left());
+
+    const auto place = [&](QPointF point) { return VqToolbarPlace(second.Toolbar(), *picker.Area(), point); };
+    const SVqToolbarPlace above = place(last.center() - QPointF(0, 1));
+    const SVqToolbarPlace below = place(last.center() + QPointF(0, 1));
+
+    EXPECT_EQ(Name(above.m_behind) + ' ' + Name(above.m_before), "button28 button29");
+    EXPECT_EQ(Name(below.m_behind) + ' ' + Name(below.m_before), "button29 none");
+    EXPECT_DOUBLE_EQ(below.m_mark.center().x(), last.center().x());
+}
