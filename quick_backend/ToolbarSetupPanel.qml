@@ -90,6 +90,13 @@ T.Control {
             before = undefined;
         }
 
+        // The end of the session cancels a drag, too, and has settled already what stays.
+        function cancelDrag(): void {
+            if (before !== undefined && panel.setup.active)
+                putBack();
+            before = undefined;
+        }
+
         function dragTo(place: point): void {
             const inside = buttons.view.contentItem.mapFromItem(buttons.view, place);
             const target = buttons.view.indexAt(1, Math.max(0, Math.min(inside.y, buttons.view.contentHeight - 1)));
@@ -221,6 +228,7 @@ T.Control {
                 onLifted: rows.before = rows.controlAt(index + 1)
                 onDraggedTo: place => rows.dragTo(place)
                 onDropped: rows.before = undefined
+                onCancelled: rows.cancelDrag()
             }
         }
 

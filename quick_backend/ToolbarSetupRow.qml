@@ -26,10 +26,11 @@ T.Control {
     signal pointedAt
     signal toggled
 
-    /// The row was dragged to a place of the list, and was let go or not.
-    signal draggedTo(place: point)
+    /// The row is dragged from lifted() on, to places of the list, until it is let go or the drag is cancelled.
     signal lifted
+    signal draggedTo(place: point)
     signal dropped
+    signal cancelled
 
     objectName: "setupRow" + index
     width: ListView.view?.width ?? 0
@@ -139,6 +140,9 @@ T.Control {
         id: mouse
 
         property bool dragging: false
+
+        /// Whether it was dragged since it was pressed; still so when the click comes.
+        property bool moved: false
         property point start: Qt.point(0, 0)
 
         anchors.fill: parent
@@ -147,6 +151,7 @@ T.Control {
         cursorShape: dragging ? Qt.ClosedHandCursor : Qt.ArrowCursor
         onPressed: event => {
             start = Qt.point(event.x, event.y);
+            moved = false;
             row.pointedAt();
         }
         onPositionChanged: event => {
@@ -154,6 +159,7 @@ T.Control {
                 return;
             if (!dragging && Math.abs(event.y - start.y) >= Application.styleHints.startDragDistance) {
                 dragging = true;
+                moved = true;
                 row.lifted();
             }
             if (dragging)
@@ -164,9 +170,13 @@ T.Control {
                 row.dropped();
             dragging = false;
         }
-        onCanceled: dragging = false
+        onCanceled: {
+            if (dragging)
+                row.cancelled();
+            dragging = false;
+        }
         onClicked: event => {
-            if (!dragging && row.mirrored ? event.x > row.width - 30 : event.x < 30)
+            if (!moved && (row.mirrored ? event.x > row.width - 30 : event.x < 30))
                 row.toggle();
         }
         onDoubleClicked: event => {

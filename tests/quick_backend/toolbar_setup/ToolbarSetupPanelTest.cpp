@@ -69,6 +69,54 @@ TEST_F(ToolbarSetupPanel, EscapePutsADraggedRowBack)
     EXPECT_TRUE(setup->IsActive());
 }
 
+TEST_F(ToolbarSetupPanel, ARowThatIsDraggedByItsBoxStaysShown)
+{
+    const QPoint target = Row(3)->mapToScene({10, 17}).toPoint();
+
+    Drag(Row(0)->mapToScene({10, 14}).toPoint(), target);
+    QTest::mouseMove(&Window(), target + QPoint(0, 1)); // back onto the row, which followed
+    LetGo(target + QPoint(0, 1));
+
+    EXPECT_EQ(Order(first), "save - zoom open undo");
+}
+
+TEST_F(ToolbarSetupPanel, ACancelledDragOfARowMovesNothing)
+{
+    const QPoint target = On(Row(3), 0.6);
+    Drag(On(Row(0), 0.5), target);
+    ASSERT_EQ(Order(first), "save - zoom open undo");
+
+    Window().mouseGrabberItem()->ungrabMouse();
+    LetGo(target);
+
+    EXPECT_EQ(Order(first), "open save - zoom undo");
+}
+
+TEST_F(ToolbarSetupPanel, EscapeAfterACancelledDragOfARowCancelsTheSession)
+{
+    const QPoint target = On(Row(3), 0.6);
+    Drag(On(Row(0), 0.5), target);
+    Window().mouseGrabberItem()->ungrabMouse();
+    LetGo(target);
+
+    Press(Qt::Key_Escape);
+
+    EXPECT_FALSE(setup->IsActive());
+    EXPECT_EQ(Order(first), "open save - zoom undo");
+}
+
+TEST_F(ToolbarSetupPanel, TheEndOfTheSessionEndsTheDragOfARowWhereItIs)
+{
+    const QPoint target = On(Row(3), 0.6);
+    Drag(On(Row(0), 0.5), target);
+
+    setup->accept();
+    Draw();
+    LetGo(target);
+
+    EXPECT_EQ(Order(first), "save - zoom open undo");
+}
+
 TEST_F(ToolbarSetupPanel, TheButtonsBelowMoveTheChosenOne)
 {
     EnterAt(1);
