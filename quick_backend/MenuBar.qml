@@ -52,6 +52,7 @@ T.Pane {
         if (!submenu)
             return shared.picked(menu.rows.idAt(row));
         select(row);
+        popup.title = (items.itemAt(row) as MenuBarItem)?.accessibleName ?? "";
         popup.show(items.itemAt(row), submenu, byKeyboard);
         if (!popup.visible)
             select(row);

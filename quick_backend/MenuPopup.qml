@@ -16,8 +16,8 @@ T.Popup {
     /// What is shown; null while closed, so that a closed popup follows no model.
     property QuickMenuRows rows: null
 
-    /// What screen readers call it: the name of what it opened from.
-    readonly property string title: (parent as MenuRow)?.accessibleName ?? (parent as MenuBarItem)?.accessibleName ?? ""
+    /// What screen readers call it: the name of what it opens from. Set before it is shown.
+    property string title: ""
 
     property alias currentIndex: list.currentIndex
 
@@ -89,6 +89,7 @@ T.Popup {
                 font: Qt.binding(() => popup.font),
                 palette: Qt.binding(() => popup.palette)
             });
+        child.title = (list.itemAtIndex(row) as MenuRow)?.accessibleName ?? "";
         child.show(list.itemAtIndex(row), rows.submenuAt(row), byKeyboard);
     }
 
