@@ -31,9 +31,6 @@ T.Pane {
 
     readonly property bool vertical: area?.vertical ?? false
 
-    /// The control that has the keyboard, or null.
-    readonly property QuickControl currentControl: host.current
-
     /// The edge with a line, towards the rest of the window.
     property int lineEdge: !vertical ? Qt.BottomEdge : mirrored ? Qt.LeftEdge : Qt.RightEdge
 

@@ -16,7 +16,7 @@ bool save_toolbar(CVqQuickButtonToolbar& bar, const QString& name)
         && file.commit();
 }
 
-// False for what cannot be read: then the toolbar is as it was.
+// False for what cannot be read, or not whole: fill the toolbar anew then.
 bool load_toolbar(CVqQuickButtonToolbar& bar, const QString& name)
 {
     CVqVariant stored;

@@ -71,7 +71,8 @@ public:
     // CVqAbstractButtonToolbar ---------------------------------------------------------------------------
 
     /// Emits setupRequested(); who listens shows the dialog. `parent` is the address of the item over whose
-    /// window it opens, 0 for the toolbar's own. `factory` is the toolbar's record to which a reset goes
+    /// window it should open, 0 for the toolbar's own; CVqQuickToolbarSetup, whose panel stands where the
+    /// application put it, takes no notice of it. `factory` is the toolbar's record to which a reset goes
     /// back; an empty one stands for what the toolbar holds now. `button` is the identifier to begin at, or
     /// 0. `commands` says whether commands of the menu may be added. `callback`, or null, is asked for the
     /// text of each command, by its identifier, before it is offered; false leaves it out. Its window is
@@ -102,7 +103,8 @@ Q_SIGNALS:
     /// Right button or key; `control` is null beside the controls. Places are logical pixels of the window.
     void contextMenuRequested(CVqQuickControl* control, qreal x, qreal y);
 
-    /// A button is to be dragged; only while drag and drop is enabled. Places as above.
+    /// A button is to be dragged; only while drag and drop is enabled and no session of a
+    /// CVqQuickToolbarSetup, which drags by itself, is active. Places as above.
     void dragRequested(CVqQuickControl* control, qreal x, qreal y);
 
     /// The toolbar is to be set up, see ShowToolbarSetup().

@@ -2,7 +2,7 @@
 
 // QML: ToolbarArea, made by a toolbar only. Properties `looks`, `mirrored`, `vertical`, `inPicker`,
 // `background`, `customizing`; implicit sizes; functions nextControl(control, step), entryControl(),
-// setEntryControl(control), controlAt(x, y).
+// setEntryControl(control), controlAt(x, y), controlOf(item).
 
 #include "arbor_quick_backend_export.h"
 #include "quick_backend/toolbar/CVqQuickControl.h"

@@ -174,6 +174,7 @@ TEST_F(ArborGalleryToolbars, TheKeyboardCustomisesToo)
                         u"Delete"_s, u"@click setupDone"_s});
 
     EXPECT_FALSE(Shows(u"main/FileNew"_s));
+    EXPECT_GE(Printed().indexOf(u"EditCopy\""_s), 0);
     EXPECT_LT(Printed().indexOf(u"EditCopy\""_s), Printed().indexOf(u"EditCut\""_s));
     EXPECT_EQ(Printed().count(u"\"Separator\", \"text\""_s), 8);
 }

@@ -80,9 +80,17 @@ TEST_F(CVqQuickToolbarCommandsMenuTest, AWholePopupTakesItsItemsAlong)
     menu->EnableId(5, false);
 
     menu->DeleteId(1);
+
     EXPECT_TRUE(one.IsEnabledNow());
+}
+
+TEST_F(CVqQuickToolbarCommandsMenuTest, AnEmptiedMenuLeavesItsButtons)
+{
+    const CVqQuickControl& one = Bound(VQ_TEXT("One"));
+    menu->EnableId(5, false);
 
     menu->DeleteAll();
+
     EXPECT_TRUE(one.IsEnabledNow());
 }
 

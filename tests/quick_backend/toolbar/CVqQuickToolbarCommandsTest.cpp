@@ -266,7 +266,7 @@ TEST_F(CVqQuickToolbarCommandsTest, AListenerMayRemoveButtonsAtAnyChange)
     const vq_uint64 first = Add(VQ_TEXT("first"), VQ_TEXT("Open"));
     const vq_uint64 second = Add(VQ_TEXT("second"), VQ_TEXT("Open"));
     QObject::connect(&Control(first), &CVqAbstractControl::stateChanged, &bar,
-                     [&] { bar.RemoveButton(second); });
+                     [this, second] { bar.RemoveButton(second); });
 
     menu->EnableId(2, false);
 

@@ -23,8 +23,6 @@ public:
         }
     }
 
-    std::size_t CountShown() const { return m_shown.size(); }
-
     /// How many of the shown controls stand on a toolbar of that length.
     std::size_t ExpectedCount(int length) const
     {
