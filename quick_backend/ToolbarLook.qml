@@ -24,14 +24,4 @@ T.Control {
     Accessible.name: session.nameOf(control)
     Accessible.description: session.descriptionOf(control)
     Accessible.focusable: enabled
-
-    // Without a ToolbarSetup, whose layer takes the pointer before, the application hears that a drag begins.
-    DragHandler {
-        target: null
-        enabled: look.session.customizing
-        onActiveChanged: {
-            if (active)
-                look.control.startDrag(centroid.scenePressPosition.x, centroid.scenePressPosition.y);
-        }
-    }
 }

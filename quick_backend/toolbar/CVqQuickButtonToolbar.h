@@ -103,8 +103,8 @@ Q_SIGNALS:
     /// Right button or key; `control` is null beside the controls. Places are logical pixels of the window.
     void contextMenuRequested(CVqQuickControl* control, qreal x, qreal y);
 
-    /// A button is to be dragged; only while drag and drop is enabled and no session of a
-    /// CVqQuickToolbarSetup, which drags by itself, is active. Places as above.
+    /// A control was sent a Drag event; only while drag and drop is enabled. The looks here send none:
+    /// dragging is the work of a CVqQuickToolbarSetup. Places as above.
     void dragRequested(CVqQuickControl* control, qreal x, qreal y);
 
     /// The toolbar is to be set up, see ShowToolbarSetup().

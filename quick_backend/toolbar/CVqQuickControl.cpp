@@ -142,12 +142,6 @@ void CVqQuickControl::openContextMenu(qreal x, qreal y)
     QMetaObject::invokeMethod(this, [this, event] { Send(event); }, Qt::QueuedConnection);
 }
 
-void CVqQuickControl::startDrag(qreal x, qreal y)
-{
-    const SVqUiEvent event{SVqUiEvent::EKind::Drag, QPointF(x, y)};
-    QMetaObject::invokeMethod(this, [this, event] { Send(event); }, Qt::QueuedConnection);
-}
-
 // The item ---------------------------------------------------------------------------------------------
 
 QQuickItem* CVqQuickControl::Item() const

@@ -3,7 +3,7 @@
 // QML: QuickControl, made in C++ only. Beside `type`, `state`, `bitmap` and `label`: `kind`, `name`, `text`,
 // `imageIndex`, `tooltip`, `command`, `keyText`, `checkable`, `checked`, `enabled`, `flat`, `vertical`,
 // `zoom`, `textPlace`, `dropDown`, `inPicker`, `item`; functions trigger(), openDropDown(x, y),
-// openContextMenu(x, y), startDrag(x, y).
+// openContextMenu(x, y).
 
 #include "AbstractGui/CVqAbstractControl.h"
 #include "arbor_quick_backend_export.h"
@@ -142,7 +142,6 @@ public:
     Q_INVOKABLE void trigger();
     Q_INVOKABLE void openDropDown(qreal x, qreal y);
     Q_INVOKABLE void openContextMenu(qreal x, qreal y);
-    Q_INVOKABLE void startDrag(qreal x, qreal y);
 
     // IVqUIcontrol ---------------------------------------------------------------------------------------
 

@@ -50,16 +50,6 @@ TEST_F(ToolbarButton, TheArrowTakesItsWidth)
     EXPECT_FALSE(window.Look(button)->property("truncated").toBool());
 }
 
-TEST_F(ToolbarButton, ADragWhileCustomisingIsToldOnceAndNothingIsTriggered)
-{
-    auto& button = window.AddButton("open");
-    window.Toolbar().EnableToolbarDragDrop(true);
-
-    window.Drag(window.Look(button), {60, 0});
-
-    EXPECT_THAT(window.Events(), ElementsAre("open drag"));
-}
-
 TEST_F(ToolbarButton, AClickTriggersOnce)
 {
     auto& button = window.AddButton("open");

@@ -135,16 +135,6 @@ public:
         Settle();
     }
 
-    void Drag(const QQuickItem* item, const QPoint& way)
-    {
-        const QPoint from = Centre(item);
-        QTest::mousePress(&Window(), Qt::LeftButton, {}, from);
-        QTest::mouseMove(&Window(), from + way / 2);
-        QTest::mouseMove(&Window(), from + way);
-        QTest::mouseRelease(&Window(), Qt::LeftButton, {}, from + way);
-        Settle();
-    }
-
     void Hover(const QQuickItem* item)
     {
         QTest::mouseMove(&Window(), Centre(item) + QPoint(1, 0));
