@@ -1,49 +1,24 @@
+#include "tests/gallery/ProgramRuns.h"
+
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int g_longest_run = 100000; // ms
-
-struct Outcome
-{
-    int code = -1;
-    QStringList lines;
-    QString errors;
-};
-
 /// Runs of the program itself that keep their menus in one folder.
-class ArborGalleryStored : public testing::Test
+class ArborGalleryStored : public ProgramRuns
 {
 protected:
-    Outcome Run(const QStringList& arguments) const
-    {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-        environment.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
-        environment.insert(u"XDG_DATA_HOME"_s, m_users.path());
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(ARBOR_GALLERY_PROGRAM), arguments);
-        EXPECT_TRUE(process.waitForFinished(g_longest_run)) << process.errorString().toStdString();
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()).trimmed().split(u'\n'),
-                QString::fromUtf8(process.readAllStandardError())};
-    }
-
-    Outcome RunStored(const QStringList& arguments) const
+    ProgramOutcome RunStored(const QStringList& arguments) const
     {
         return Run(QStringList{u"--data"_s, m_folder.path()} + arguments);
     }
 
     /// Presses `keys` on the page of keys, behind a search for the command "Print...".
-    Outcome RunKeysPage(const QString& keys) const
+    ProgramOutcome RunKeysPage(const QString& keys) const
     {
         return RunStored({u"--page"_s, u"KeysPage"_s, u"--keys"_s, u"P,r,i,n,t,Period,"_s + keys});
     }
@@ -66,9 +41,6 @@ protected:
         RunStored(arguments + QStringList{u"--screenshots"_s, pictures.path()});
         return QImage(pictures.filePath(name));
     }
-
-    QTemporaryDir m_folder;
-    QTemporaryDir m_users;
 };
 
 /// The status line tells times, which differ.
@@ -90,7 +62,7 @@ TEST_F(ArborGalleryStored, StartsFromItsStoredMenus)
     ASSERT_EQ(Names(), QStringList{u"menus.cbor"_s});
     const QString before = Run({u"--print-menus"_s, File()}).lines.join(u'\n');
 
-    const Outcome second = RunStored({u"--keys"_s, u"Ctrl+S,Alt+F,Esc,Left"_s});
+    const ProgramOutcome second = RunStored({u"--keys"_s, u"Ctrl+S,Alt+F,Esc,Left"_s});
 
     EXPECT_EQ(second.code, 0) << second.errors.toStdString();
     EXPECT_EQ(second.errors, QString());
@@ -114,11 +86,11 @@ TEST_F(ArborGalleryStored, ItsStoredMenusShowTheSameImages)
 
 TEST_F(ArborGalleryStored, AnAssignedKeyIsKeptShownAndFires)
 {
-    const Outcome first = RunKeysPage(u"Enter,Ctrl+K,Ctrl+K"_s);
+    const ProgramOutcome first = RunKeysPage(u"Enter,Ctrl+K,Ctrl+K"_s);
     EXPECT_EQ(first.lines.value(7), u"Ctrl+K -> Print... has the key Ctrl+K now."_s);
     EXPECT_EQ(first.lines.value(8), u"Ctrl+K -> 1035 FilePrint"_s);
 
-    const Outcome second = RunStored({u"--keys"_s, u"Ctrl+K,Ctrl+P"_s});
+    const ProgramOutcome second = RunStored({u"--keys"_s, u"Ctrl+K,Ctrl+P"_s});
 
     EXPECT_EQ(second.lines, (QStringList{u"Ctrl+K -> 1035 FilePrint"_s, u"Ctrl+P -> 1035 FilePrint"_s}));
     EXPECT_TRUE(RunStored({u"--print-keys"_s}).lines.contains(u"1035 FilePrint: Ctrl+P, Ctrl+K"_s));
@@ -126,12 +98,12 @@ TEST_F(ArborGalleryStored, AnAssignedKeyIsKeptShownAndFires)
 
 TEST_F(ArborGalleryStored, AKeyThatWasTakenOverStaysTakenOver)
 {
-    const Outcome first = RunKeysPage(u"Enter,Ctrl+C,Left,Enter"_s);
+    const ProgramOutcome first = RunKeysPage(u"Enter,Ctrl+C,Left,Enter"_s);
     EXPECT_EQ(first.lines.value(7), u"Ctrl+C -> Ctrl+C is the key of Copy."_s);
     EXPECT_EQ(first.lines.value(9),
               u"Enter -> Print... has the key Ctrl+C now, which was taken from Copy."_s);
 
-    const Outcome second = RunStored({u"--keys"_s, u"Ctrl+C,Ctrl+Insert"_s});
+    const ProgramOutcome second = RunStored({u"--keys"_s, u"Ctrl+C,Ctrl+Insert"_s});
 
     EXPECT_EQ(second.lines, (QStringList{u"Ctrl+C -> 1035 FilePrint"_s, u"Ctrl+Insert -> 1105 EditCopy"_s}));
     EXPECT_TRUE(RunStored({u"--print-keys"_s}).lines.contains(u"1105 EditCopy: Ctrl+Insert"_s));
@@ -158,7 +130,7 @@ TEST_F(ArborGalleryStored, ADamagedFileIsSetAsideWithOneSentence)
 {
     Put("broken");
 
-    const Outcome result = RunStored({u"--keys"_s, u"Ctrl+S"_s});
+    const ProgramOutcome result = RunStored({u"--keys"_s, u"Ctrl+S"_s});
 
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(result.errors, damaged_sentence());
@@ -191,8 +163,8 @@ TEST_F(ArborGalleryStored, AFolderThatCannotBeMadeGivesOneSentenceAndTheKeysHold
 {
     Put("a file where the folder should be");
 
-    const Outcome result = Run({u"--data"_s, File(), u"--page"_s, u"KeysPage"_s, u"--keys"_s,
-                                u"P,r,i,n,t,Period,Enter,Ctrl+K,Ctrl+K"_s});
+    const ProgramOutcome result = Run({u"--data"_s, File(), u"--page"_s, u"KeysPage"_s, u"--keys"_s,
+                                       u"P,r,i,n,t,Period,Enter,Ctrl+K,Ctrl+K"_s});
 
     EXPECT_EQ(result.code, 0);
     EXPECT_EQ(
@@ -223,7 +195,7 @@ TEST_F(ArborGalleryStored, StoredMenusArePrintedAsJson)
 {
     RunStored({u"--keys"_s, u"F1"_s});
 
-    const Outcome result = Run({u"--print-menus"_s, File()});
+    const ProgramOutcome result = Run({u"--print-menus"_s, File()});
 
     EXPECT_EQ(result.code, 0) << result.errors.toStdString();
     EXPECT_EQ(result.lines.constFirst(), u"[\"\", \"level\", ["_s);
@@ -234,7 +206,7 @@ TEST_F(ArborGalleryStored, AFileThatIsNoneIsNotPrinted)
 {
     Put("\xFF");
 
-    const Outcome result = Run({u"--print-menus"_s, File()});
+    const ProgramOutcome result = Run({u"--print-menus"_s, File()});
 
     EXPECT_EQ(result.code, 2);
     EXPECT_EQ(result.errors, File() + u": it is not in the stored form.\n"_s);

@@ -1,45 +1,20 @@
+#include "tests/gallery/ProgramRuns.h"
+
 #include <QDir>
 #include <QFile>
-#include <QProcess>
-#include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int g_longest_run = 100000; // ms
-
-struct Outcome
-{
-    int code = -1;
-    QStringList lines;
-    QString errors;
-};
-
 /// Runs of the program itself that keep their toolbars in one folder, driven by keys and mouse.
-class ArborGalleryToolbars : public testing::Test
+class ArborGalleryToolbars : public ProgramRuns
 {
 protected:
-    Outcome Run(const QStringList& arguments) const
-    {
-        QProcess process;
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(u"QT_QPA_PLATFORM"_s, u"offscreen"_s);
-        environment.insert(u"QT_QUICK_BACKEND"_s, u"software"_s);
-        environment.insert(u"XDG_DATA_HOME"_s, m_users.path());
-        process.setProcessEnvironment(environment);
-        process.start(QStringLiteral(ARBOR_GALLERY_PROGRAM), arguments);
-        EXPECT_TRUE(process.waitForFinished(g_longest_run)) << process.errorString().toStdString();
-        return {process.exitCode(), QString::fromUtf8(process.readAllStandardOutput()).trimmed().split(u'\n'),
-                QString::fromUtf8(process.readAllStandardError())};
-    }
-
     /// What each step did, in the order of the steps.
     QStringList Drive(const QStringList& steps) const
     {
-        const Outcome outcome = Run({u"--data"_s, m_folder.path(), u"--keys"_s, steps.join(u',')});
+        const ProgramOutcome outcome = Run({u"--data"_s, m_folder.path(), u"--keys"_s, steps.join(u',')});
         EXPECT_EQ(outcome.code, 0);
         EXPECT_EQ(outcome.errors, QString());
         EXPECT_EQ(outcome.lines.size(), steps.size());
@@ -58,12 +33,9 @@ protected:
     /// The stored toolbars for people; empty when there are none.
     QString Printed() const
     {
-        const Outcome outcome = Run({u"--print-toolbars"_s, m_folder.filePath(u"toolbars.cbor"_s)});
+        const ProgramOutcome outcome = Run({u"--print-toolbars"_s, m_folder.filePath(u"toolbars.cbor"_s)});
         return outcome.code == 0 ? outcome.lines.join(u'\n') : QString();
     }
-
-    QTemporaryDir m_folder;
-    QTemporaryDir m_users;
 };
 
 /// From the context menu of a button to the dialog.
@@ -111,7 +83,8 @@ TEST_F(ArborGalleryToolbars, TheColourFieldOpensTheColours)
 
 TEST_F(ArborGalleryToolbars, TheirPlacesAreMirroredFromRightToLeft)
 {
-    const Outcome outcome = Run({u"--rtl"_s, u"--keys"_s, u"@click main/FileSave,@click main/FileOpen:10"_s});
+    const ProgramOutcome outcome
+        = Run({u"--rtl"_s, u"--keys"_s, u"@click main/FileSave,@click main/FileOpen:10"_s});
 
     EXPECT_EQ(outcome.lines,
               (QStringList{u"@click main/FileSave -> 1015 FileSave"_s,
@@ -127,8 +100,9 @@ TEST_F(ArborGalleryToolbars, TheKeyOfTheToolStripHidesTheTools)
 
 TEST_F(ArborGalleryToolbars, OtherPagesHaveTheMainBarAlone)
 {
-    const Outcome outcome = Run({u"--page"_s, u"ListsPage"_s, u"--keys"_s,
-                                 u"@click tools/Tool(crop),@click text/ViewGrid,@click main/FileSave"_s});
+    const ProgramOutcome outcome
+        = Run({u"--page"_s, u"ListsPage"_s, u"--keys"_s,
+               u"@click tools/Tool(crop),@click text/ViewGrid,@click main/FileSave"_s});
 
     EXPECT_EQ(outcome.lines,
               (QStringList{u"@click tools/Tool(crop) -> nothing to see"_s,
@@ -194,7 +168,8 @@ TEST_F(ArborGalleryToolbars, ADamagedFileIsSetAsideWithOneSentence)
     file.write("broken");
     file.close();
 
-    const Outcome outcome = Run({u"--data"_s, m_folder.path(), u"--keys"_s, u"@click main/FileSave"_s});
+    const ProgramOutcome outcome
+        = Run({u"--data"_s, m_folder.path(), u"--keys"_s, u"@click main/FileSave"_s});
 
     EXPECT_EQ(outcome.code, 0);
     EXPECT_EQ(
@@ -210,7 +185,7 @@ TEST_F(ArborGalleryToolbars, ABadToolbarFileGivesOneSentenceAndTwo)
     file.write("{ \"format\": 1,\n\"toolbars\": 3 }");
     file.close();
 
-    const Outcome outcome = Run({u"--toolbars"_s, file.fileName(), u"--keys"_s, u"F1"_s});
+    const ProgramOutcome outcome = Run({u"--toolbars"_s, file.fileName(), u"--keys"_s, u"F1"_s});
 
     EXPECT_EQ(outcome.code, 2);
     EXPECT_EQ(outcome.errors, file.fileName() + u", line 2: \"toolbars\" is not a list.\n"_s);
@@ -224,8 +199,8 @@ TEST_F(ArborGalleryToolbars, OtherToolbarsAreShown)
         { "command": "AdjustSepia" } ] } ] })");
     file.close();
 
-    const Outcome outcome = Run({u"--toolbars"_s, file.fileName(), u"--keys"_s,
-                                 u"@click main/AdjustSepia,@click tools/Tool(crop)"_s});
+    const ProgramOutcome outcome = Run({u"--toolbars"_s, file.fileName(), u"--keys"_s,
+                                        u"@click main/AdjustSepia,@click tools/Tool(crop)"_s});
 
     EXPECT_EQ(outcome.lines,
               (QStringList{u"@click main/AdjustSepia -> 1503 AdjustSepia"_s,
