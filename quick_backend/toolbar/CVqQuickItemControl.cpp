@@ -23,6 +23,11 @@ CVqQuickItemControl::~CVqQuickItemControl()
     delete m_content;
 }
 
+QQuickItem* CVqQuickItemControl::Content() const
+{
+    return m_content;
+}
+
 // Its look may size it, which changes nothing where it has an implicit size.
 void CVqQuickItemControl::content_resized()
 {

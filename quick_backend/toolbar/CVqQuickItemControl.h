@@ -18,7 +18,7 @@ public:
     explicit CVqQuickItemControl(QQuickItem* content);
     ~CVqQuickItemControl() override;
 
-    QQuickItem* Content() const { return m_content; }
+    QQuickItem* Content() const;
 
     vq_uint64 CreateUI(vq_uint64 parent) override;
     void DestroyUI() override;
