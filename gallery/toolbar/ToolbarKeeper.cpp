@@ -27,14 +27,17 @@ void hide_buttons(const QString& bar, const QStringList& buttons)
         VQ_SetToolbarButtonAsHidden(wide(bar).c_str(), wide(button).c_str(), true, false);
 }
 
+/// Those that the user hides. They are asked of an instance that nobody else sets anything for, since what
+/// the system hides stands under the full name of an instance.
 QStringList hidden_buttons(CVqQuickButtonToolbar& bar)
 {
+    const std::u16string instance = wide(bar.Name() + QLatin1String("#user"));
     QStringList hidden;
     for (int i = 0; i < bar.GetButtonsCount(); ++i) {
         CVqStringW name;
         const vq_uint64 id = bar.GetButtonID(static_cast<unsigned>(i), false);
         if (!bar.IsIDSeparator(id) && bar.GetButtonName(id, name) == 0
-            && VQ_IsToolbarButtonSetAsHidden(wide(bar.Name()).c_str(), name.GetString()))
+            && VQ_IsToolbarButtonSetAsHidden(instance.c_str(), name.GetString()))
             hidden << name.ToQString();
     }
     return hidden;

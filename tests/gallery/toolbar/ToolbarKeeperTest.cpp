@@ -151,6 +151,23 @@ TEST_F(ToolbarKeeperTest, HiddenButtonsAreHiddenAgain)
     EXPECT_TRUE(second.Named(u"ViewGrid"_s)->GetControlVisibility());
 }
 
+TEST_F(ToolbarKeeperTest, WhatTheSystemHidesIsNotKeptAsTheUsers)
+{
+    {
+        BarsRun first(Home());
+        VQ_SetToolbarButtonAsHidden(VQ_TEXT("first"), VQ_TEXT("ViewGrid"), true, true);
+        hide(u"FileOpen"_s);
+        first.m_keeper.Store();
+        VQ_SetToolbarButtonAsHidden(VQ_TEXT("first"), VQ_TEXT("ViewGrid"), false, true);
+        VQ_SetToolbarButtonAsHidden(VQ_TEXT("first"), nullptr, false, false);
+    }
+
+    BarsRun second(Home());
+
+    EXPECT_TRUE(second.IsHidden(u"FileOpen"_s));
+    EXPECT_FALSE(second.IsHidden(u"ViewGrid"_s));
+}
+
 TEST_F(ToolbarKeeperTest, ARunBeginsWithoutTheHiddenButtonsOfAnother)
 {
     hide(u"ViewGrid"_s);
