@@ -78,6 +78,9 @@ endfunction()
 # arbor_tests(<name> [DISPLAY] [PREFIX <text>] DEPENDS <targets>... SOURCES <TestFile>...)
 # One test program a folder, one CTest entry a case. DISPLAY: with OpenGL on an X display, under Xvfb where
 # there is no other. PREFIX: in front of each entry's name, for a second program with the same cases.
+#
+# An instrumented program is one entry, <name>: there a process costs more than most cases do, and cases that run
+# one after the other show what they leave to each other.
 function(arbor_tests name)
   cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "PREFIX" "DEPENDS;SOURCES")
   set(sources ${arg_SOURCES})
@@ -94,6 +97,11 @@ function(arbor_tests name)
       set(launcher CROSSCOMPILING_EMULATOR)
     endif()
     set_target_properties(${name} PROPERTIES ${launcher} ${PROJECT_SOURCE_DIR}/tools/with_display)
+  endif()
+  if(ARBOR_INSTRUMENTED)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES TIMEOUT 1500 ${environment})
+    return()
   endif()
   set(prefix)
   if(arg_PREFIX)
