@@ -181,7 +181,10 @@ private:
     bool leave_element()
     {
         m_expansion.Leave();
-        if (m_style_levels == 0 || --m_style_levels > 0)
+        if (m_style_levels == 0)
+            return true;
+        --m_style_levels;
+        if (m_style_levels > 0)
             return true;
         m_expansion.AddStyle(m_style);
         return style_stays_inside(std::exchange(m_style, QString()));

@@ -8,19 +8,21 @@
 #include "quick_backend/toolbar/CVqQuickToolbarCommands.h"
 #include "quick_backend/toolbar/CVqQuickWatchedToolbar.h"
 #include "quick_backend/toolbar/SVqUiEvent.h"
+#include "quick_backend/toolbar/VqItemOf.h"
 
 #include <QPointer>
 #include <QQmlEngine>
 #include <QQuickWindow>
 
+#include <cstdint>
 #include <utility>
 
 namespace {
 
-// The text that an identifier is the address of.
 const vq_wchar* name_of(CVqQuickControl& control)
 {
-    return reinterpret_cast<const vq_wchar*>(control.GetControlID());
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): an identifier is the address of a name.
+    return reinterpret_cast<const vq_wchar*>(static_cast<std::uintptr_t>(control.GetControlID()));
 }
 
 template <class Work>
@@ -235,7 +237,7 @@ void CVqQuickButtonToolbar::ShowToolbarSetup(vq_uint64 parent, CVqVariant& facto
                                              bool commands, setup_callback_type callback)
 {
     auto* first = dynamic_cast<CVqQuickControl*>(m_pToolbar->GetControl(button));
-    Q_EMIT setupRequested({reinterpret_cast<QQuickItem*>(parent), factory, first, commands, callback});
+    Q_EMIT setupRequested({VqItemOf(parent), factory, first, commands, callback});
 }
 
 bool CVqQuickButtonToolbar::StartDrag(SVqUiEvent& event)
@@ -280,7 +282,7 @@ void CVqQuickButtonToolbar::run(const CVqQuickControl& control, SVqUiEvent& even
         Q_EMIT triggered(command);
 }
 
-void CVqQuickButtonToolbar::open_drop_down(const CVqQuickControl& control, const SVqUiEvent& event)
+void CVqQuickButtonToolbar::open_drop_down(const CVqQuickControl& control, const SVqUiEvent& event) const
 {
     const QPoint place = desktop_place(control, event.m_place);
     if (Menu() && control.HasDropDown())

@@ -140,7 +140,7 @@ private:
     ARBOR_QUICK_BACKEND_NO_EXPORT void handle(CVqQuickControl& control, SVqUiEvent& event);
     ARBOR_QUICK_BACKEND_NO_EXPORT void run(const CVqQuickControl& control, SVqUiEvent& event);
     ARBOR_QUICK_BACKEND_NO_EXPORT void open_drop_down(const CVqQuickControl& control,
-                                                      const SVqUiEvent& event);
+                                                      const SVqUiEvent& event) const;
 
     const std::unique_ptr<CVqQuickToolbarCommands> m_commands;
     std::unordered_map<const CVqQuickControl*, SSeen> m_seen; // the controls that are there

@@ -4,6 +4,7 @@
 #include "quick_backend/toolbar/CVqQuickControlItem.h"
 #include "quick_backend/toolbar/IVqQuickControlOwner.h"
 #include "quick_backend/toolbar/SVqUiEvent.h"
+#include "quick_backend/toolbar/VqItemOf.h"
 
 #include <QQmlEngine>
 
@@ -158,7 +159,7 @@ vq_uint64 CVqQuickControl::CreateUI(vq_uint64 parent)
 {
     DestroyUI();
     m_item = new CVqQuickControlItem(*this);
-    m_item->setParentItem(reinterpret_cast<QQuickItem*>(parent));
+    m_item->setParentItem(VqItemOf(parent));
     Q_EMIT itemChanged();
     return GetWindowHandle();
 }

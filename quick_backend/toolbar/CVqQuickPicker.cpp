@@ -48,6 +48,7 @@ int CVqQuickPicker::Set(unsigned code, vq_int64 index, void* data)
         m_popup->ShareBoundary(static_cast<CVqList::CVqNode*>(data));
         return 0;
     case vq_picker_callback:
+        // NOLINTNEXTLINE(performance-no-int-to-ptr): the callback's data come as the index.
         return m_popup->SetCallback(reinterpret_cast<CVqAbstractToolbar::callback_type>(data),
                                     reinterpret_cast<void*>(index));
     case vq_picker_list:

@@ -4,6 +4,7 @@
 #include "quick_backend/toolbar/CVqQuickPicker.h"
 #include "quick_backend/toolbar/CVqQuickToolbarArea.h"
 #include "quick_backend/toolbar/SVqUiEvent.h"
+#include "quick_backend/toolbar/VqItemOf.h"
 
 CVqQuickToolbar::CVqQuickToolbar() = default;
 
@@ -37,7 +38,7 @@ vq_uint64 CVqQuickToolbar::CreateUI(vq_uint64 parent, EToolbarType type, const v
     CVqAbstractToolbar::CreateUI(parent, type, name);
     m_area = new CVqQuickToolbarArea([this] { Layout(); }, [this] { return reading_order(); },
                                      type == EToolbarType::InPicker);
-    m_area->setParentItem(reinterpret_cast<QQuickItem*>(parent));
+    m_area->setParentItem(VqItemOf(parent));
     m_area->setVisible(m_bVisible);
     m_hWindow = reinterpret_cast<vq_uint64>(m_area.data());
     if (m_picker)

@@ -145,6 +145,7 @@ CVqQuickToolbarCommands::SBinding* CVqQuickToolbarCommands::binding_of(const CVq
 void CVqQuickToolbarCommands::show_all()
 {
     std::vector<Text> commands;
+    commands.reserve(m_bindings.size());
     for (const auto& [command, binding] : m_bindings)
         commands.push_back(command);
     for (const Text& command : commands)

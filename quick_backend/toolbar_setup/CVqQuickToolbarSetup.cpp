@@ -120,7 +120,7 @@ void CVqQuickToolbarSetup::SetControl(CVqQuickControl* control)
 
 void CVqQuickToolbarSetup::note_state(SVqCustomisedBar& bar)
 {
-    bar.m_state.emplace(*bar.m_bar);
+    bar.m_state = std::make_unique<CVqToolbarState>(*bar.m_bar);
     bar.m_had_drag_drop = bar.m_bar->IsToolbarDragDropEnabled();
     bar.m_bar->EnableToolbarDragDrop(true);
 }

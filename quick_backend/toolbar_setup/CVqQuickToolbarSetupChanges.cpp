@@ -187,6 +187,7 @@ void CVqQuickToolbarSetup::reset()
     if (!m_active)
         return;
     std::vector<SVqCustomisedBar*> bars;
+    bars.reserve(m_bars.size());
     for (const auto& bar : m_bars)
         bars.push_back(bar.get());
     const auto rebuilt = CVqToolbarReset(bars, [this](CVqQuickControl& control) { touch(control); }).Run();

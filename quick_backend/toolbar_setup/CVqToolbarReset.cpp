@@ -37,6 +37,7 @@ std::vector<CVqQuickButtonToolbar*> CVqToolbarReset::Run()
     for (const SVqCustomisedBar* bar : rebuilt)
         replace_made(*bar, false);
     std::vector<CVqQuickButtonToolbar*> bars;
+    bars.reserve(rebuilt.size());
     for (const SVqCustomisedBar* bar : rebuilt)
         bars.push_back(bar->m_bar);
     if (!rebuilt.empty())

@@ -7,7 +7,7 @@
 #include <QPointer>
 #include <QString>
 
-#include <optional>
+#include <memory>
 
 /// What a CVqQuickToolbarSetup knows of one bar.
 struct SVqCustomisedBar
@@ -18,6 +18,7 @@ struct SVqCustomisedBar
     QPointer<CVqQuickButtonToolbar> m_bar;
     CVqVariant m_factory;
     QString m_title;
-    std::optional<CVqToolbarState> m_state; ///< As it was when the session began; none outside of a session.
-    bool m_had_drag_drop = false;           ///< The same of the bar's drag and drop.
+    std::unique_ptr<CVqToolbarState>
+        m_state;                  ///< As it was when the session began; null outside of a session.
+    bool m_had_drag_drop = false; ///< The same of the bar's drag and drop.
 };
