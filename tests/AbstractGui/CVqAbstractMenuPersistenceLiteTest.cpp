@@ -1,4 +1,5 @@
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "tests/AbstractGui/RefusingWriter.h"
 #include "tests/AbstractGui/StoredMenus.h"
 
 #include <gtest/gtest.h>
@@ -46,6 +47,25 @@ TEST(CVqAbstractMenuSaveLite, LonelyAcceleratorsStandAloneWithoutARoot)
     menu.Save(stored);
 
     EXPECT_EQ(LiteForm::Show(stored),
+              "CVqMenu(LonelyAccels((Id=4 Type=0 Status=1 Command=lonely AccelKey0=4325394)))");
+}
+
+TEST(CVqAbstractMenuSaveLite, WrapperThatCannotBeBegunGivesAnEmptyStream)
+{
+    TestMenu menu;
+    fill_menu(menu);
+    const RefusingWriter refusing(VQ_TEXT("CVqMenu"));
+
+    EXPECT_EQ(saved<LiteForm>(menu), "");
+}
+
+TEST(CVqAbstractMenuSaveLite, ListThatCannotBeBegunIsLeftOut)
+{
+    TestMenu menu;
+    fill_menu(menu);
+    const RefusingWriter refusing(VQ_TEXT("Root"));
+
+    EXPECT_EQ(saved<LiteForm>(menu),
               "CVqMenu(LonelyAccels((Id=4 Type=0 Status=1 Command=lonely AccelKey0=4325394)))");
 }
 
@@ -108,6 +128,28 @@ TEST(CVqAbstractMenuLoadLite, InsideAWrapperWithoutRootNothingIsFound)
     EXPECT_EQ(menu.Load(stored), 0);
 
     EXPECT_EQ(menu.LonelyAccels(), nullptr);
+}
+
+TEST(CVqAbstractMenuLoadLite, LonelyAcceleratorsOfAMenuWithoutARootComeBack)
+{
+    TestMenu menu;
+    CVqLiteVariantR stored = LiteForm::Make(
+        {{VQ_TEXT("CVqMenu"), Stored::Children{{VQ_TEXT("LonelyAccels"), items_of_ids({2})}}}});
+
+    EXPECT_EQ(menu.Load(stored), 0);
+
+    EXPECT_EQ(TestMenu::Chain(menu.LonelyAccels()), "2");
+}
+
+TEST(CVqAbstractMenuLoadLite, ValueOfTheNameRootHidesTheWrapper)
+{
+    TestMenu menu;
+    CVqLiteVariantR stored = LiteForm::Make(
+        {{VQ_TEXT("CVqMenu"), Stored::Children{{VQ_TEXT("Root"), items_of_ids({1})}}}, {VQ_TEXT("Root"), 5}});
+
+    EXPECT_EQ(menu.Load(stored), 0);
+
+    EXPECT_EQ(menu.Tree(), "");
 }
 
 TEST(CVqAbstractMenuLoadLite, ListOfItemsWithoutRootIsNotRead)

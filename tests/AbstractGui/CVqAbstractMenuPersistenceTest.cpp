@@ -1,4 +1,5 @@
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "tests/AbstractGui/NotingManipulators.h"
 #include "tests/AbstractGui/StoredMenus.h"
 
 #include <gmock/gmock.h>
@@ -218,5 +219,39 @@ TYPED_TEST(CVqAbstractMenuPersistence, AllPassesGoThroughTheMenusOwnTools)
     EXPECT_NE(dynamic_cast<OwnItem*>(this->m_menu.Item(1)), nullptr);
     EXPECT_NE(dynamic_cast<OwnItem*>(this->m_menu.Item(2)), nullptr);
     EXPECT_NE(dynamic_cast<OwnItem*>(this->m_menu.LonelyAccels()), nullptr);
+    this->m_menu.SetManipulators(nullptr);
+}
+
+TYPED_TEST(CVqAbstractMenuPersistence, SavingPassesMayBeReplacedAndTheirResultsDoNotMatter)
+{
+    NotingManipulators tools;
+    fill_menu(this->m_menu);
+    this->m_menu.SetManipulators(&tools);
+    typename TypeParam::Container out;
+
+    EXPECT_EQ(this->m_menu.Save(out), 0);
+
+    EXPECT_EQ(TypeParam::Show(out), whole<TypeParam>(filled_lists));
+    EXPECT_THAT(tools.m_calls,
+                ElementsAre("save_to_variant 1", "save_to_variant 2", "save_accels_to_variant"));
+    this->m_menu.SetManipulators(nullptr);
+}
+
+TYPED_TEST(CVqAbstractMenuPersistence, LoadingPassesMayBeReplacedAndTheCodeOfCreatingCounts)
+{
+    NotingManipulators tools;
+    this->m_menu.SetManipulators(&tools);
+    auto stored = TypeParam::MakeMenu(
+        {StoredRecord(
+            {{VQ_TEXT("Id"), 1u}, {VQ_TEXT("SubMenu"), Stored::Children{item_with_key(2, ctrl_a)}}})},
+        items_of_ids({3}));
+
+    EXPECT_EQ(this->m_menu.Load(stored), NotingManipulators::code);
+
+    EXPECT_THAT(tools.m_calls,
+                ElementsAre("destroy_all", "load_from_variant 0", "append_item 1", "load_from_variant 1",
+                            "update_menustring 2 Ctrl+A", "append_item 2", "load_accels_from_variant",
+                            "create_all"));
+    EXPECT_EQ(tools.m_frees, 3); // items, neighbours of the root, lonely accelerators
     this->m_menu.SetManipulators(nullptr);
 }

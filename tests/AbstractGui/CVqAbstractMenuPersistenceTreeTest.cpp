@@ -176,3 +176,31 @@ TEST(CVqAbstractMenuLoadTree, RootWithoutAnyValueCountsAsAbsent)
     EXPECT_EQ(menu.Tree(), "7");
     EXPECT_EQ(TestMenu::Chain(menu.LonelyAccels()), "4");
 }
+
+TEST(CVqAbstractMenuLoadTree, ValueOfTheNameRootReplacesLonelyAcceleratorsAndMainTable)
+{
+    TestMenu menu;
+    fill_menu(menu);
+    CVqVariant stored = TreeForm::Make({{VQ_TEXT("Root"), 5}});
+
+    EXPECT_EQ(menu.Load(stored), 0);
+
+    EXPECT_EQ(menu.Tree(), "");
+    EXPECT_EQ(menu.LonelyAccels(), nullptr);
+    EXPECT_EQ(menu.MainTable().GetAccelsCount(), 0u);
+}
+
+// Without a root nothing tells the tree from an old one, which was the list of items itself.
+TEST(CVqAbstractMenuLoadTree, LonelyAcceleratorsWithoutARootAreTakenForAnItem)
+{
+    CVqAbstractMenu menu;
+    menu.AppendLonelyAccel(4, 18, 0x42, VQ_TEXT("lonely"));
+    CVqVariant stored;
+    menu.Save(stored);
+    TestMenu other;
+
+    other.Load(stored);
+
+    EXPECT_EQ(other.Tree(), "0");
+    EXPECT_EQ(other.LonelyAccels(), nullptr);
+}

@@ -89,6 +89,17 @@ TYPED_TEST(HostileMenus, ValuesOfOtherTypesReadAsWhatTheyTurnIntoAndTheMenuWorks
     this->expect_a_working_menu();
 }
 
+TYPED_TEST(HostileMenus, SubMenuUnderASeparatorLeavesAMenuThatWorks)
+{
+    this->load({StoredRecord({{VQ_TEXT("Id"), 5u},
+                              {VQ_TEXT("Type"), 6u},
+                              {VQ_TEXT("SubMenu"), Stored::Children{item_with_key(6, ctrl_a)}}})});
+
+    EXPECT_EQ(this->m_menu.Tree(), "5(6)");
+    this->expect_a_working_menu();
+    this->expect_to_be_stored_again();
+}
+
 TYPED_TEST(HostileMenus, SubMenuUnderASeparatorLoadsWithoutANativeRow)
 {
     TestMenu menu;

@@ -1,5 +1,8 @@
+#include "system/VqVariantStorage.h"
 #include "tests/AbstractGui/StoredMenus.h"
 #include "tests/support/SmallStack.h"
+
+#include <QBuffer>
 
 #include <gtest/gtest.h>
 
@@ -83,5 +86,23 @@ TYPED_TEST(LargeStoredMenus, ThousandLevelsOfPopupsComeBackInASmallStack)
     this->save_and_load();
 
     EXPECT_EQ(this->m_result, 0);
+    EXPECT_EQ(depth_of(this->m_loaded.Root()->subItem()), levels);
+}
+
+// A popup takes two levels of the stored form.
+TYPED_TEST(LargeStoredMenus, ThousandLevelsOfPopupsComeBackFromBytes)
+{
+    for (int i = 1; i <= levels; ++i)
+        this->m_menu.AppendPopup(static_cast<vq_uint32>(i), static_cast<vq_uint32>(i - 1), VQ_TEXT("Popup"));
+    typename TypeParam::Container stored;
+    this->m_menu.Save(stored);
+    QBuffer bytes;
+    bytes.open(QBuffer::ReadWrite);
+
+    ASSERT_EQ(VQ_WriteCbor(bytes, stored), EVqStorageResult::Ok);
+    bytes.seek(0);
+    ASSERT_EQ(VQ_ReadCbor(bytes, stored), EVqStorageResult::Ok);
+
+    this->m_loaded.Load(stored);
     EXPECT_EQ(depth_of(this->m_loaded.Root()->subItem()), levels);
 }

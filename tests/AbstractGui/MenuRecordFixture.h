@@ -24,6 +24,7 @@ public:
         item->setNextItem(&m_other_item);
         item->setText(VQ_TEXT("past"));
         item->setRemoved(true);
+        item->setDeleted(true);
         item->setLineWidth(7);
         item->setCol1(8);
         item->setCol2(9);

@@ -5,11 +5,11 @@
 
 namespace {
 
-const RefusingWriter* current = nullptr;
+RefusingWriter* current = nullptr;
 
 }
 
-RefusingWriter::RefusingWriter(const CVqStringW& name) : m_name(name)
+RefusingWriter::RefusingWriter(const CVqStringW& name, int most) : m_name(name), m_left(most)
 {
     current = this;
 }
@@ -21,7 +21,10 @@ RefusingWriter::~RefusingWriter()
 
 bool RefusingWriter::Refuses(const vq_wchar* name)
 {
-    return current && current->m_name == name;
+    if (!current || current->m_name != name || current->m_left == 0)
+        return false;
+    --current->m_left;
+    return true;
 }
 
 // The program's own definition takes the place of the system library's in the whole process.

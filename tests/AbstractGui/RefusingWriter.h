@@ -2,12 +2,15 @@
 
 #include "system/CVqStringW.h"
 
+#include <limits>
+
 /// While it lives, no CVqLiteVariantW begins a level of that name: what otherwise takes more data than 32
 /// bits can number. One at a time.
 class RefusingWriter
 {
 public:
-    explicit RefusingWriter(const CVqStringW& name);
+    /// Only the first `most` levels of that name are refused.
+    explicit RefusingWriter(const CVqStringW& name, int most = std::numeric_limits<int>::max());
     ~RefusingWriter();
 
     RefusingWriter(const RefusingWriter&) = delete;
@@ -17,4 +20,5 @@ public:
 
 private:
     const CVqStringW m_name;
+    int m_left;
 };

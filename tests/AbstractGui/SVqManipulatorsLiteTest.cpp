@@ -1,6 +1,10 @@
 #include "AbstractGui/CVqAbstractMenu.h"
+#include "system/VqVariantStorage.h"
+#include "tests/AbstractGui/RefusingWriter.h"
 #include "tests/AbstractGui/StoredMenus.h"
 #include "tests/AbstractGui/TestBitmapPool.h"
+
+#include <QBuffer>
 
 #include <gmock/gmock.h>
 
@@ -24,6 +28,24 @@ protected:
     {
         CVqLiteVariantR in = LiteForm::Make(records);
         return m_tools.load_from_variant(&m_table, parent, in);
+    }
+
+    /// What both passes write of an item and of one behind it, each pass in brackets.
+    std::string saved_pair(CVqMenuItem& first)
+    {
+        CVqMenuItem second;
+        first.setId(5);
+        first.setType(6);
+        first.setNextItem(&second);
+        second.setId(6);
+        second.setType(6);
+        return LiteForm::Show(LiteForm::Filled([&](CVqLiteVariantW& out) {
+            out.LevelBegin(VQ_TEXT("items"));
+            EXPECT_EQ(m_tools.save_to_variant(nullptr, &first, out), 0);
+            out.LevelEnd();
+            out.LevelBegin(VQ_TEXT("accels"));
+            EXPECT_EQ(m_tools.save_accels_to_variant(nullptr, &first, out), 0);
+        }));
     }
 
     void load(Stored::Children fields) { load_into(&m_parent, {StoredRecord(std::move(fields))}); }
@@ -57,6 +79,26 @@ TEST_F(SVqManipulatorsLite, NamesOfKeysAreExact)
           {VQ_TEXT("AccelKeyOther"), ctrl_b}});
 
     EXPECT_EQ(m_table.GetAccelsCount(), 0u);
+}
+
+TEST_F(SVqManipulatorsLite, KeyWithoutAValueIsMissing)
+{
+    CVqVariant list;
+    CVqVariant& record = list.Append(CVqVariant());
+    record.Append(CVqVariant(5u, VQ_TEXT("Id")));
+    record.Append(CVqVariant()).SetName(VQ_TEXT("AccelKey0"));
+    record.Append(CVqVariant(ctrl_a, VQ_TEXT("AccelKey1")));
+    QBuffer file; // writers have no such value, files may
+    file.open(QBuffer::ReadWrite);
+    VQ_WriteCbor(file, list);
+    file.seek(0);
+    CVqLiteVariantR in;
+    ASSERT_EQ(VQ_ReadCbor(file, in), EVqStorageResult::Ok);
+
+    m_tools.load_from_variant(&m_table, &m_parent, in);
+
+    EXPECT_EQ(TestMenu::Chain(m_parent.subItem()), "5");
+    EXPECT_EQ(TestMenu::Keys(m_table), "");
 }
 
 TEST_F(SVqManipulatorsLite, KeysAreReadInTheOrderOfTheirNumbers)
@@ -141,6 +183,50 @@ TEST_F(SVqManipulatorsLite, RecordsBeforeTheCursorAreNotRead)
     m_tools.load_from_variant(&m_table, &m_parent, in);
 
     EXPECT_EQ(TestMenu::Chain(m_parent.subItem()), "6");
+}
+
+TEST_F(SVqManipulatorsLite, RecordWhoseLevelCannotBeBegunIsSkippedAndThoseBehindItAreWritten)
+{
+    CVqMenuItem first;
+    const RefusingWriter refusing(VQ_TEXT(""), 1);
+
+    EXPECT_EQ(saved_pair(first),
+              "items((Id=6 Type=6 Status=1)) "
+              "accels((Id=5 Type=6 Status=1 Command=) (Id=6 Type=6 Status=1 Command=))");
+}
+
+TEST_F(SVqManipulatorsLite, NoRecordIsWrittenWhenNoneCanBeBegun)
+{
+    CVqMenuItem first;
+    const RefusingWriter refusing(VQ_TEXT(""));
+
+    EXPECT_EQ(saved_pair(first), "items() accels()");
+}
+
+TEST_F(SVqManipulatorsLite, SubMenuThatCannotBeBegunIsLeftOut)
+{
+    CVqMenuItem first;
+    CVqMenuItem child;
+    first.setSubItem(&child);
+    const RefusingWriter refusing(VQ_TEXT("SubMenu"));
+
+    EXPECT_EQ(saved_pair(first),
+              "items((Id=5 Type=6 Status=1) (Id=6 Type=6 Status=1)) "
+              "accels((Id=5 Type=6 Status=1 Command=) (Id=6 Type=6 Status=1 Command=))");
+}
+
+TEST_F(SVqManipulatorsLite, LonelyAcceleratorWhoseLevelCannotBeBegunIsSkippedAndThoseBehindItAreWritten)
+{
+    CVqMenuItem second;
+    CVqMenuItem first;
+    first.setNextItem(&second);
+    second.setId(6);
+    const RefusingWriter refusing(VQ_TEXT(""), 1);
+
+    const CVqLiteVariantR stored = LiteForm::Filled(
+        [&](CVqLiteVariantW& out) { EXPECT_EQ(m_tools.save_accels_to_variant(nullptr, &first, out), 0); });
+
+    EXPECT_EQ(LiteForm::Show(stored), "(Id=6 Type=0 Status=1 Command=)");
 }
 
 TEST_F(SVqManipulatorsLite, ImageBelowTheModuleIsStoredWithItsWay)

@@ -200,6 +200,19 @@ TYPED_TEST(SVqMenuRecordAccels, LonelyAcceleratorOfAKnownIdentifierWithoutANewKe
     EXPECT_EQ(TestMenu::Keys(this->m_table), "1:18+65");
 }
 
+TYPED_TEST(SVqMenuRecordAccels, LonelyAcceleratorOfAnIdentifierThatTheChainHadBeforeIsFreed)
+{
+    OddAllocator tools;
+    this->load_accels({StoredRecord({{VQ_TEXT("Id"), 1u}}), StoredRecord({{VQ_TEXT("Id"), 2u}})},
+                      &this->m_table);
+
+    this->load_accels({StoredRecord({{VQ_TEXT("Id"), 2u}}), StoredRecord({{VQ_TEXT("Id"), 3u}})},
+                      &this->m_table, tools);
+
+    EXPECT_EQ(TestMenu::Chain(this->m_head), "1 2 3");
+    EXPECT_EQ(tools.m_freed, 1);
+}
+
 TYPED_TEST(SVqMenuRecordAccels, LonelyAcceleratorOfAKnownIdentifierWithANewKeyIsKept)
 {
     this->load_accels({StoredRecord({{VQ_TEXT("Id"), 1u}}),

@@ -81,9 +81,24 @@ TYPED_TEST(SVqMenuRecordLoading, MissingFieldsReplaceWhatANewItemHolds)
     const CVqMenuItem& item = *this->m_parent.subItem();
     EXPECT_TRUE(item.text().IsEmpty());
     EXPECT_FALSE(item.removed());
+    EXPECT_FALSE(item.deleted());
     EXPECT_EQ(item.lineWidth(), 0u);
     EXPECT_EQ(item.col1(), 0u);
     EXPECT_EQ(item.col2(), 0u);
+}
+
+TYPED_TEST(SVqMenuRecordLoading, RemovedAndDeletedAreAbsentForANormalItemAndReadBackAsFalse)
+{
+    auto container = TypeParam::Filled(
+        [this](auto& out) { this->m_tools.save_to_variant(nullptr, &this->m_item, out); });
+    const std::string stored = TypeParam::Show(container);
+    OddAllocator tools;
+
+    tools.load_from_variant(nullptr, &this->m_parent, container);
+
+    EXPECT_EQ(stored, "(Id=0 Type=0 Status=1 Text= Command=)");
+    EXPECT_FALSE(this->m_parent.subItem()->removed());
+    EXPECT_FALSE(this->m_parent.subItem()->deleted());
 }
 
 TYPED_TEST(SVqMenuRecordLoading, NewItemsLoseTableHandleParameterAndNeighbours)

@@ -165,7 +165,8 @@ private:
     {
         for (; item; item = item->nextItem()) {
             const bool fresh = !item->ignoreAdditionalZoom() && !item->userParam() && !item->drawCallback()
-                && !item->measureCallback() && item->menu() == 0 && item->parentItem() == parent;
+                && !item->measureCallback() && item->menu() == 0 && item->parentItem() == parent
+                && item->bmpSize() == CVqSizeBase<int>{};
             m_lines += std::string(depth, ' ') + std::to_string(item->id()) + " "
                 + std::to_string(item->type()) + " " + std::to_string(item->status())
                 + (item->removed() ? "-" : "") + (item->deleted() ? "*" : "") + " '"
