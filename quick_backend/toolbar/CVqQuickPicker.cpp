@@ -47,10 +47,11 @@ int CVqQuickPicker::Set(unsigned code, vq_int64 index, void* data)
     case vq_picker_boundary:
         m_popup->ShareBoundary(static_cast<CVqList::CVqNode*>(data));
         return 0;
-    case vq_picker_callback:
+    case vq_picker_callback: {
         // NOLINTNEXTLINE(performance-no-int-to-ptr): the callback's data come as the index.
-        return m_popup->SetCallback(reinterpret_cast<CVqAbstractToolbar::callback_type>(data),
-                                    reinterpret_cast<void*>(index));
+        auto* const callback_data = reinterpret_cast<void*>(index);
+        return m_popup->SetCallback(reinterpret_cast<CVqAbstractToolbar::callback_type>(data), callback_data);
+    }
     case vq_picker_list:
         m_popup->ShareList(static_cast<CVqList*>(data));
         return 0;

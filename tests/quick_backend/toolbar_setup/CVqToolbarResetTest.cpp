@@ -20,7 +20,7 @@ protected:
             SVqCustomisedBar& known = bar == &first ? first_bar : second_bar;
             known.m_bar = bar;
             bar->Save(known.m_factory, nullptr);
-            known.m_state.emplace(*bar);
+            known.m_state = std::make_unique<CVqToolbarState>(*bar);
         }
     }
 
@@ -71,7 +71,7 @@ TEST_F(CVqToolbarResetTest, MakesWhatIsNoLongerThereFromTheRecord)
 {
     first.RemoveButton(first.FindButton(VQ_TEXT("open")));
     Settle();
-    first_bar.m_state.emplace(first);
+    first_bar.m_state = std::make_unique<CVqToolbarState>(first);
 
     Reset();
 
@@ -87,8 +87,8 @@ TEST_F(CVqToolbarResetTest, FindsWhatAnEarlierSessionMovedToAnotherBar)
         VqTakeOut(first, *control);
         VqPutIn(second, *control, nullptr);
     }
-    first_bar.m_state.emplace(first);
-    second_bar.m_state.emplace(second);
+    first_bar.m_state = std::make_unique<CVqToolbarState>(first);
+    second_bar.m_state = std::make_unique<CVqToolbarState>(second);
 
     Reset();
 
@@ -102,8 +102,8 @@ TEST_F(CVqToolbarResetTest, AControlOfTheSameNameWithAnotherCommandIsNotMeant)
     CVqQuickControl* other = Add(second, "open", "Other");
     first.RemoveButton(first.FindButton(VQ_TEXT("open")));
     Settle();
-    first_bar.m_state.emplace(first);
-    second_bar.m_state.emplace(second);
+    first_bar.m_state = std::make_unique<CVqToolbarState>(first);
+    second_bar.m_state = std::make_unique<CVqToolbarState>(second);
 
     Reset();
 
