@@ -55,7 +55,10 @@ QString WriteStoredTree(const QString& name, const CVqVariant& tree)
     QSaveFile file(name);
     if (!file.open(QIODevice::WriteOnly))
         return file.errorString();
-    VQ_WriteCbor(file, tree); // a disk that is full shows when it is committed
+    const EVqStorageResult result = VQ_WriteCbor(file, tree);
+    if (result == EVqStorageResult::TooDeep)
+        return reason_of(result);
+    // A disk that is full shows here.
     return file.commit() ? QString() : file.errorString();
 }
 

@@ -3,9 +3,13 @@
 #include "gallery/storage/StoredMenu.h"
 #include "gallery/storage/StoredTree.h"
 #include "gallery/storage/TreeStore.h"
+#include "system/CVqLiteVariantR.h"
+#include "system/VqVariantStorage.h"
 #include "tests/gallery/keys/KeyMenu.h"
 
 #include <QDir>
+#include <QFile>
+#include <QJsonDocument>
 #include <QTemporaryDir>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +37,38 @@ TEST_F(PrintMenus, AMenuIsReadableJson)
     EXPECT_TRUE(printed.text.startsWith(u"[\"\", \"level\", ["_s));
     EXPECT_TRUE(printed.text.endsWith(u']'));
     EXPECT_TRUE(printed.text.contains(u"\"Text\", \"text\", \"&Print...\""_s)) << printed.text.toStdString();
+    EXPECT_TRUE(QJsonDocument::fromJson(printed.text.toUtf8()).isArray());
+}
+
+TEST_F(PrintMenus, AMenuInTheLightweightFormIsReadableJsonToo)
+{
+    CVqLiteVariantR menu;
+    KeyMenu(KeyDocument()).Menu().Save(menu);
+    QFile file(m_folder.filePath(u"a.cbor"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    ASSERT_EQ(VQ_WriteCbor(file, menu), EVqStorageResult::Ok);
+    file.close();
+
+    const PrintedMenus printed = Gallery::PrintMenus(file.fileName());
+
+    EXPECT_EQ(printed.error, QString());
+    EXPECT_TRUE(printed.text.contains(u"\"CVqMenu\", \"level\", ["_s)) << printed.text.toStdString();
+    EXPECT_TRUE(printed.text.contains(u"\"Text\", \"text\", \"&Print...\""_s)) << printed.text.toStdString();
+}
+
+TEST_F(PrintMenus, AFileWithMoreLevelsThanJsonTakesGivesOneSentence)
+{
+    CVqVariant tree;
+    CVqVariant* level = &tree;
+    for (int i = 0; i < 1500; ++i)
+        level = &level->Append(CVqVariant());
+    const QString file = m_folder.filePath(u"a.cbor"_s);
+    ASSERT_EQ(Gallery::WriteStoredTree(file, tree), QString());
+
+    const PrintedMenus printed = Gallery::PrintMenus(file);
+
+    EXPECT_EQ(printed.error, file + u": it has too many levels."_s);
+    EXPECT_EQ(printed.text, QString());
 }
 
 TEST_F(PrintMenus, AFileThatIsNoneGivesOneSentence)

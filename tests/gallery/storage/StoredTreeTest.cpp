@@ -1,6 +1,7 @@
 #include "gallery/storage/StoredTree.h"
 
 #include "system/CVqVariant.h"
+#include "tests/gallery/FileSizeLimit.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,6 +14,16 @@ using Gallery::ReadStoredTree;
 using Gallery::WriteStoredTree;
 
 namespace {
+
+CVqVariant nested_levels(int count)
+{
+    CVqVariant tree;
+    CVqVariant* level = &tree;
+    for (int i = 1; i < count; ++i)
+        level = &level->Append(CVqVariant());
+    level->Append(CVqVariant(5u, VQ_TEXT("Id")));
+    return tree;
+}
 
 class StoredTree : public testing::Test
 {
@@ -71,6 +82,34 @@ TEST_F(StoredTree, AFolderInPlaceOfTheFileIsNotWrittenOver)
     EXPECT_NE(WriteStoredTree(Path(u"a.cbor"_s), m_tree), QString());
 }
 
+TEST_F(StoredTree, ATreeWithTooManyLevelsLeavesTheFileThatIsThere)
+{
+    WriteStoredTree(Path(u"a.cbor"_s), m_tree);
+    const QByteArray before = Content(u"a.cbor"_s);
+
+    EXPECT_EQ(WriteStoredTree(Path(u"a.cbor"_s), nested_levels(4001)), u"it has too many levels"_s);
+
+    EXPECT_EQ(Content(u"a.cbor"_s), before);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{u"a.cbor"_s});
+}
+
+#ifdef Q_OS_UNIX
+TEST_F(StoredTree, ATreeThatDoesNotFitOnTheDiskLeavesTheFileThatIsThere)
+{
+    WriteStoredTree(Path(u"a.cbor"_s), m_tree);
+    const QByteArray before = Content(u"a.cbor"_s);
+    QString reason;
+    {
+        const FileSizeLimit limit(1000);
+        reason = WriteStoredTree(Path(u"a.cbor"_s), nested_levels(2000));
+    }
+
+    EXPECT_NE(reason, QString());
+    EXPECT_EQ(Content(u"a.cbor"_s), before);
+    EXPECT_EQ(QDir(m_folder.path()).entryList(QDir::Files), QStringList{u"a.cbor"_s});
+}
+#endif
+
 TEST_F(StoredTree, AMissingFileIsNotRead)
 {
     EXPECT_EQ(ReadStoredTree(Path(u"a.cbor"_s), m_tree), u"No such file or directory"_s);
@@ -118,4 +157,12 @@ TEST_F(StoredTree, AnotherKindOfFileIsNotRead)
     Put(u"a.cbor"_s, "\xFF\xD8\xFF"); // a JPEG begins so
 
     EXPECT_EQ(ReadStoredTree(Path(u"a.cbor"_s), m_tree), u"it is not in the stored form"_s);
+}
+
+TEST_F(StoredTree, AFileWithTooManyLevelsIsNotRead)
+{
+    Put(u"a.cbor"_s, QByteArray(5000, '\x81')); // lists in lists
+
+    EXPECT_EQ(ReadStoredTree(Path(u"a.cbor"_s), m_tree), u"it has too many levels"_s);
+    EXPECT_EQ(m_tree.GetCount(), 1);
 }

@@ -85,6 +85,19 @@ TEST_F(TreeStoreTest, NothingIsSetAsideOverAnother)
     }
 }
 
+TEST_F(TreeStoreTest, WithAThousandFilesSetAsideNoOtherIs)
+{
+    for (int i = 1; i <= 1000; ++i) {
+        QFile file(m_folder.filePath(u"menus-damaged-%1.cbor"_s.arg(i)));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    }
+    Damage();
+
+    EXPECT_EQ(m_store.SetAside(), QString());
+
+    EXPECT_EQ(Names().size(), 1001);
+}
+
 TEST_F(TreeStoreTest, WithoutAFileNothingIsSetAside)
 {
     EXPECT_EQ(m_store.SetAside(), QString());
