@@ -1,91 +1,16 @@
 #include "gallery/storage/MenuKeeper.h"
 
 #include "gallery/Translations.h"
-#include "gallery/keys/MenuKeys.h"
-#include "quick_backend/CVqQuickBitmapPool.h"
-#include "quick_backend/CVqQuickMenu.h"
 #include "tests/gallery/RealMenu.h"
-#include "tests/gallery/keys/KeyMenu.h"
-
-#include <QDir>
-#include <QFile>
-#include <QSignalSpy>
-#include <QTemporaryDir>
+#include "tests/gallery/storage/MenuKeeperFixture.h"
 
 using namespace Qt::StringLiterals;
 using Gallery::MenuDocument;
-using Gallery::MenuHome;
-using Gallery::MenuKeeper;
 
 namespace {
 
-/// All that the rows of a menu show, from top to bottom.
-QStringList shown_rows(CVqQuickMenuRows* rows)
-{
-    QStringList lines;
-    for (int row = 0; row < rows->rowCount(); ++row) {
-        QStringList line;
-        for (int role = CVqQuickMenuRows::ItemIdRole; role <= CVqQuickMenuRows::AccessibleNameRole; ++role)
-            if (role != CVqQuickMenuRows::SubmenuRole)
-                line << rows->data(rows->index(row), role).toString();
-        lines << line.join(u'|');
-        if (CVqQuickMenuRows* below = rows->submenuAt(row))
-            lines += shown_rows(below);
-    }
-    return lines;
-}
-
-/// One run of a program that keeps its menus.
-class ProgramRun
-{
-public:
-    ProgramRun(const MenuDocument& document, const MenuHome& home)
-        : m_document(document), m_keeper(m_menu, m_document, home)
-    {
-        m_roles = m_keeper.Fill();
-    }
-
-    QStringList Rows() { return shown_rows(m_menu.Rows()); }
-
-    QString Text(vq_uint32 id)
-    {
-        CVqStringW text;
-        m_menu.GetIdMenuString(id, text);
-        return text.ToQString();
-    }
-
-    vq_uint32 Fires(const Gallery::MenuKey& key) { return Gallery::MenuKeys(m_menu).HolderOf(key); }
-
-    const MenuDocument m_document;
-    CVqQuickMenu m_menu;
-    MenuKeeper m_keeper;
-    QHash<vq_uint32, Gallery::MenuRole> m_roles;
-};
-
-class MenuKeeperTest : public testing::Test
-{
-protected:
-    MenuHome Home(const QString& language = u"en"_s) const { return {m_folder.path(), language}; }
-
-    QStringList Names() const { return QDir(m_folder.path()).entryList(QDir::Files, QDir::Name); }
-
-    QByteArray Stored() const
-    {
-        QFile file(m_folder.filePath(u"menus.cbor"_s));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll();
-    }
-
-    void Put(const QByteArray& bytes) const
-    {
-        QFile file(m_folder.filePath(u"menus.cbor"_s));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-    }
-
-    CVqQuickBitmapPool m_pool;
-    QTemporaryDir m_folder;
-};
+class MenuKeeperTest : public MenuKeeperFixture
+{ };
 
 /// The menu of KeyDocument() in a later version: Print has another identifier, Ctrl+K is Find's.
 MenuDocument newer_document()
@@ -267,80 +192,4 @@ TEST_F(MenuKeeperTest, ANewerFactoryMenuIsStoredAtOnce)
     ProgramRun(newer_document(), Home());
 
     EXPECT_EQ(Stored(), stored);
-}
-
-TEST_F(MenuKeeperTest, ADamagedFileIsSetAsideAndTold)
-{
-    Put("broken");
-
-    ProgramRun run(KeyDocument(), Home());
-
-    EXPECT_EQ(
-        run.m_keeper.Notice(),
-        u"The stored menus cannot be read, so they were set aside as menus-damaged-1.cbor and the factory menus loaded."_s);
-    EXPECT_EQ(run.Fires(KeyOf::CtrlS), 2u);
-    EXPECT_EQ(Names(), (QStringList{u"menus-damaged-1.cbor"_s, u"menus.cbor"_s}));
-}
-
-TEST_F(MenuKeeperTest, AMenuThatLacksEntriesIsDamaged)
-{
-    {
-        ProgramRun first(KeyDocument(), Home());
-        first.m_menu.DeleteId(3);
-        first.m_keeper.Store();
-    }
-
-    ProgramRun second(KeyDocument(), Home());
-
-    EXPECT_NE(second.m_keeper.Notice(), QString());
-    EXPECT_EQ(second.Rows(), ProgramRun(KeyDocument(), {}).Rows());
-    EXPECT_EQ(second.Fires(KeyOf::CtrlP), 3u);
-}
-
-TEST_F(MenuKeeperTest, AMenuWithAnotherCommandIsDamaged)
-{
-    {
-        ProgramRun first(KeyDocument(), Home());
-        first.m_menu.SetIdCommand(3, VQ_TEXT("Other"));
-        first.m_keeper.Store();
-    }
-
-    EXPECT_NE(ProgramRun(KeyDocument(), Home()).m_keeper.Notice(), QString());
-}
-
-TEST_F(MenuKeeperTest, AFolderThatIsOnlyReadStaysAsItIs)
-{
-    Put("broken");
-    MenuHome home = Home();
-    home.is_written = false;
-
-    ProgramRun run(KeyDocument(), home);
-    run.m_keeper.Store();
-
-    EXPECT_EQ(
-        run.m_keeper.Notice(),
-        u"The stored menus in %1 cannot be read, so the factory menus were loaded and nothing is stored."_s
-            .arg(QDir::toNativeSeparators(m_folder.path())));
-    EXPECT_EQ(Names(), QStringList{u"menus.cbor"_s});
-    EXPECT_EQ(Stored(), "broken");
-}
-
-TEST_F(MenuKeeperTest, AFolderThatCannotBeWrittenIsToldAndLosesNothing)
-{
-    Put("a file where the folder should be");
-    const QString folder = m_folder.filePath(u"menus.cbor"_s);
-    ProgramRun run(KeyDocument(), {folder, u"en"_s});
-    run.m_keeper.ClearNotice();
-    Gallery::MenuKeys(run.m_menu).Set(3, {KeyOf::CtrlK});
-    QSignalSpy told(&run.m_keeper, &MenuKeeper::NoticeChanged);
-
-    run.m_keeper.Store();
-
-    EXPECT_EQ(
-        run.m_keeper.Notice(),
-        u"The menus cannot be stored in %1 (the folder cannot be made), so keys that you change last until the program ends."_s
-            .arg(QDir::toNativeSeparators(folder)));
-    EXPECT_EQ(told.size(), 1);
-    EXPECT_EQ(run.Fires(KeyOf::CtrlK), 3u);
-    EXPECT_EQ(run.Fires(KeyOf::CtrlS), 2u);
 }
