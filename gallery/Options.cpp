@@ -80,7 +80,7 @@ OptionsResult take(const QCommandLineParser& parser)
     result.options.qml = parser.value(u"qml"_s);
     result.options.data = parser.value(u"data"_s);
     const bool of_toolbars = parser.isSet(g_print_toolbars);
-    result.options.print_menus = parser.value(of_toolbars ? QString(g_print_toolbars) : u"print-menus"_s);
+    result.options.print_stored = parser.value(of_toolbars ? QString(g_print_toolbars) : u"print-menus"_s);
     result.options.print_keys = parser.isSet(g_print_keys);
     result.options.page = parser.value(u"page"_s);
     if (!QStringList{u"de"_s, u"en"_s, u"ja"_s}.contains(result.options.locale))

@@ -12,17 +12,16 @@ namespace Gallery {
 /// What the command line asks for.
 struct Options
 {
-    QList<ScriptStep> keys; ///< Keys and mouse, one after the other.
-    QString screenshots;    ///< Folder for pictures; empty for none.
-    QString demo;           ///< Folder for pictures of the tour; empty for none.
-    QString locale;         ///< "de" or "en" for labels and key names, "ja" for key names alone.
-    QString menus;          ///< A menu file in place of the built-in one; empty for none.
-    QString toolbars;       ///< A toolbar file in place of the built-in one; empty for none.
-    QString qml;            ///< A copy of gallery/ for the developer's mode; empty for the source tree.
-    QString data;           ///< The folder in which menus and toolbars are kept; empty for the user's own.
-    QString
-        print_menus;  ///< A file with stored menus or toolbars, printed instead of a window; empty for none.
-    bool rtl = false; ///< The window is laid out from right to left.
+    QList<ScriptStep> keys;  ///< Keys and mouse, one after the other.
+    QString screenshots;     ///< Folder for pictures; empty for none.
+    QString demo;            ///< Folder for pictures of the tour; empty for none.
+    QString locale;          ///< "de" or "en" for labels and key names, "ja" for key names alone.
+    QString menus;           ///< A menu file in place of the built-in one; empty for none.
+    QString toolbars;        ///< A toolbar file in place of the built-in one; empty for none.
+    QString qml;             ///< A copy of gallery/ for the developer's mode; empty for the source tree.
+    QString data;            ///< The folder in which menus and toolbars are kept; empty for the user's own.
+    QString print_stored;    ///< Stored menus or toolbars, printed instead of a window; empty for none.
+    bool rtl = false;        ///< The window is laid out from right to left.
     bool print_keys = false; ///< The keys of the menu are printed instead of a window.
     QString page;            ///< The page that the window opens with; empty for the first.
     RenderJob render;        ///< A picture that is wanted instead of a window; without a file for none.

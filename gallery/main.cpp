@@ -148,7 +148,7 @@ int resize(int& argc, char** argv, const Gallery::Options& options)
     return Gallery::RunResizeCommand(options.resize, console);
 }
 
-int print_menus(const QString& file)
+int print_stored(const QString& file)
 {
     const Gallery::PrintedMenus printed = Gallery::PrintMenus(file);
     print(printed.error.isEmpty() ? printed.text : printed.error, printed.error.isEmpty() ? stdout : stderr);
@@ -237,8 +237,8 @@ int main(int argc, char** argv)
         return result.exit_code;
     }
     QImageReader::setAllocationLimit(g_image_memory);
-    if (!result.options.print_menus.isEmpty())
-        return print_menus(result.options.print_menus);
+    if (!result.options.print_stored.isEmpty())
+        return print_stored(result.options.print_stored);
     if (!result.options.resize.in.isEmpty())
         return resize(argc, argv, result.options);
     Gallery::MenuFile file;

@@ -8,12 +8,6 @@
 
 namespace Gallery {
 
-namespace {
-
-constexpr vq_uint32 g_virtual_key = 16;
-
-}
-
 KeyEditor::KeyEditor(CVqQuickMenu& menu, const MenuDocument& document, QObject* parent)
     : QObject(parent), m_keys(menu), m_factory_keys(FactoryKeys(document)), m_commands(menu, document)
 { }
@@ -67,7 +61,7 @@ void KeyEditor::press(uint flags, uint key)
 {
     if (!current())
         return;
-    const MenuKey pressed{flags | g_virtual_key, static_cast<vq_wchar>(key)};
+    const MenuKey pressed{flags | vq_accel_virtual_key, static_cast<vq_wchar>(key)};
     const vq_uint32 holder = m_keys.HolderOf(pressed);
     m_asked.reset();
     if (holder == 0) {

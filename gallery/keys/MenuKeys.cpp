@@ -7,7 +7,6 @@ namespace Gallery {
 namespace {
 
 constexpr vq_wchar g_bel = 7;
-constexpr vq_uint32 g_virtual_key = 16;
 
 /// The tables of a menu, taken out of it while this lives.
 class TablesInHand
@@ -46,7 +45,7 @@ vq_uint32 MenuKeys::HolderOf(const MenuKey& key) const
 {
     vq_uint64 target = 0;
     vq_uint32 id = 0;
-    m_menu.Translate(key.key, key.flags & ~g_virtual_key, target, id);
+    m_menu.Translate(key.key, key.flags & ~vq_accel_virtual_key, target, id);
     return id;
 }
 
@@ -56,7 +55,7 @@ void MenuKeys::Set(vq_uint32 id, const QList<MenuKey>& keys)
         TablesInHand tables(m_menu);
         tables.Main().RemoveAccelKey(id);
         for (const MenuKey& key : keys)
-            tables.Main().AddAccelKey(id, key.flags | g_virtual_key, key.key, 0);
+            tables.Main().AddAccelKey(id, key.flags | vq_accel_virtual_key, key.key, 0);
     }
     refresh_label(id);
 }

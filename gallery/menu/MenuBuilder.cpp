@@ -13,8 +13,6 @@ namespace Gallery {
 
 namespace {
 
-constexpr vq_uint32 g_enabled = 1;
-constexpr vq_uint32 g_no_mnemonic = 16;
 constexpr QChar g_bel(7);
 
 std::u16string wide(const QString& text)
@@ -132,7 +130,9 @@ void MenuBuilder::append_item(const MenuEntry& entry, vq_uint32 parent)
     QString text = LocalLabel(entry.text);
     if (entry.text_key)
         text += g_bel + LocalKeyText(entry.key_text);
-    const vq_uint32 status = entry.mnemonic ? g_enabled : g_enabled | g_no_mnemonic;
+    vq_uint32 status = CVqMenuItem::StatusEnabled;
+    if (!entry.mnemonic)
+        status |= CVqMenuItem::StatusNoMnemonic;
     m_menu.AppendMenuItem(entry.id, parent, wide(text).c_str(), wide(entry.command).c_str(), status);
 }
 

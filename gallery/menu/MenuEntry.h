@@ -11,7 +11,7 @@
 
 namespace Gallery {
 
-/// A key combination: modifiers (1 Alt, 2 Ctrl, 4 Shift, 16 virtual key) and a virtual-key value.
+/// A key combination: modifiers, the bits of VqAccelFlags.h, and a virtual-key value.
 struct MenuKey
 {
     vq_uint32 flags = 0;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "gallery/menu/JsonFields.h"
+#include "gallery/json/JsonFields.h"
 #include "gallery/menu/MenuEntry.h"
 
 #include <QHash>

@@ -1,3 +1,4 @@
+#include "AbstractGui/VqAccelFlags.h"
 #include "gallery/menu/KeyText.h"
 #include "gallery/menu/MenuEntryReader.h"
 
@@ -12,7 +13,6 @@ namespace Gallery {
 namespace {
 
 constexpr int g_last_key = 0xFE; // the highest virtual-key value in use
-constexpr vq_uint32 g_virtual_key = 16;
 
 struct Modifier
 {
@@ -22,7 +22,8 @@ struct Modifier
 
 vq_uint32 modifier_flag(const QString& name)
 {
-    static const Modifier modifiers[] = {{u"Alt"_s, 1}, {u"Ctrl"_s, 2}, {u"Shift"_s, 4}};
+    static const Modifier modifiers[]
+        = {{u"Alt"_s, vq_accel_alt}, {u"Ctrl"_s, vq_accel_ctrl}, {u"Shift"_s, vq_accel_shift}};
     for (const Modifier& modifier : modifiers)
         if (modifier.name == name)
             return modifier.flag;
@@ -64,7 +65,7 @@ bool MenuEntryReader::read_key_value(const Source& source, const QJsonValue& val
     if (!CheckMembers(object, source.path + u"/keys"_s, source.name, {u"flags"_s, u"key"_s}))
         return false;
     const int number = object.value(u"key"_s).toInt();
-    MenuKey key{g_virtual_key, static_cast<vq_wchar>(number)};
+    MenuKey key{vq_accel_virtual_key, static_cast<vq_wchar>(number)};
     if (number < 1 || number > g_last_key)
         return Fail(source, u"keys"_s,
                     u" needs a \"key\" from 1 to %1 in each of its \"keys\""_s.arg(g_last_key));

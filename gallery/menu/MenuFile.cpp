@@ -1,6 +1,6 @@
 #include "gallery/menu/MenuFile.h"
 
-#include "gallery/menu/JsonFile.h"
+#include "gallery/json/JsonFile.h"
 #include "gallery/menu/MenuEntryReader.h"
 
 using namespace Qt::StringLiterals;

@@ -15,8 +15,8 @@ struct PrintedMenus
     QString error; ///< One sentence; empty after a success.
 };
 
-/// The stored menus in the file `name` as readable JSON. A menu that an application stored by itself is taken
-/// too, in either form.
+/// The stored menus, or toolbars, in the file `name` as readable JSON. A menu or toolbar that an application
+/// stored by itself is taken too, in either form.
 PrintedMenus PrintMenus(const QString& name);
 
 /// A line for each command that has keys, as its row of the menu shows them: "1016 FileSaveAs: Ctrl+Shift+S".

@@ -1,6 +1,6 @@
 #include "gallery/toolbar/ToolbarFile.h"
 
-#include "gallery/menu/JsonFile.h"
+#include "gallery/json/JsonFile.h"
 #include "gallery/toolbar/ToolbarEntryReader.h"
 
 using namespace Qt::StringLiterals;

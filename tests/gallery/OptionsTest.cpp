@@ -125,8 +125,8 @@ TEST(Options, StoredMenusAndKeysArePrintedWithoutAScript)
     const OptionsResult menus = parse({u"--print-menus"_s, u"a.cbor"_s});
     const OptionsResult keys = parse({u"--print-keys"_s});
 
-    EXPECT_EQ(menus.options.print_menus, u"a.cbor"_s);
-    EXPECT_EQ(parse({u"--print-toolbars"_s, u"b.cbor"_s}).options.print_menus, u"b.cbor"_s);
+    EXPECT_EQ(menus.options.print_stored, u"a.cbor"_s);
+    EXPECT_EQ(parse({u"--print-toolbars"_s, u"b.cbor"_s}).options.print_stored, u"b.cbor"_s);
     EXPECT_FALSE(menus.options.print_keys);
     EXPECT_EQ(keys.exit_code, -1);
     EXPECT_TRUE(keys.options.print_keys);

@@ -1,4 +1,4 @@
-#include "gallery/menu/JsonFile.h"
+#include "gallery/json/JsonFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
-#include "gallery/menu/JsonFile.h"
+#include "gallery/json/JsonFile.h"
 
-#include "gallery/menu/JsonLines.h"
+#include "gallery/json/JsonLines.h"
 
 #include <QCryptographicHash>
 #include <QFile>

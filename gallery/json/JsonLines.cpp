@@ -1,4 +1,4 @@
-#include "gallery/menu/JsonLines.h"
+#include "gallery/json/JsonLines.h"
 
 #include <QStringList>
 

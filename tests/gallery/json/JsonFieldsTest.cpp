@@ -1,4 +1,4 @@
-#include "gallery/menu/JsonFields.h"
+#include "gallery/json/JsonFields.h"
 
 #include <QJsonDocument>
 
