@@ -31,4 +31,4 @@ private:
 
 }
 
-INSTANTIATE_TYPED_TEST_SUITE_P(Recording, ToolbarContract, RecordingTraits);
+ARBOR_TOOLBAR_CONTRACT(Recording, RecordingTraits);

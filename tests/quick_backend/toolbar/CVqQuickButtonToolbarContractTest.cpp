@@ -61,4 +61,4 @@ private:
 
 }
 
-INSTANTIATE_TYPED_TEST_SUITE_P(QtQuick, ToolbarContract, QuickTraits);
+ARBOR_TOOLBAR_CONTRACT(QtQuick, QuickTraits);
