@@ -17,6 +17,7 @@ QtObject {
 
     readonly property MenuPressGuard guard: MenuPressGuard {
         onPressedOutside: session.dismissed()
+        onWindowLeft: session.dismissed()
     }
 
     property point pointer: Qt.point(-1, -1)

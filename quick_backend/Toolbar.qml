@@ -150,6 +150,7 @@ T.Pane {
         ground: bar.area?.background.valid ? bar.area.background : bar.palette.window
         onAimed: control => tip.aim(control)
         onPressed: tip.dismiss()
+        onWindowLeft: tip.dismiss()
         onContextMenuRequested: place => bar.toolbar.contextMenuRequested(null, place.x, place.y)
     }
 
@@ -159,5 +160,7 @@ T.Pane {
         session: shared
         font: bar.font
         palette: bar.palette
+        // One that is still to come goes with the window, too.
+        onTargetChanged: target ? shared.guard.watch(bar) : shared.guard.unwatch(bar)
     }
 }

@@ -43,6 +43,12 @@ Item {
         }
     }
 
+    WindowGuard {
+        id: guard
+
+        onWindowLeft: popup.close()
+    }
+
     ToolbarMenuPopup {
         id: popup
 
@@ -51,6 +57,9 @@ Item {
 
         readonly property bool isSeparator: control?.kind === QuickControl.Separator
         readonly property string label: control ? control.text || control.tooltip || control.name : ""
+
+        onOpened: guard.watch(root)
+        onClosed: guard.unwatch(root)
 
         ToolbarMenuItem {
             objectName: "toolbarMenuHide"

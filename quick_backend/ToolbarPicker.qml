@@ -82,6 +82,11 @@ ToolbarLook {
         function onUsed(): void {
             popup.close();
         }
+
+        function onWindowLeft(): void {
+            if (!look.session.customizing)
+                popup.close();
+        }
     }
 
     ToolbarPopup {

@@ -16,16 +16,14 @@ T.Popup {
 
     readonly property Item anchor: parent
 
-    // What had the keyboard before.
-    property Item formerFocus: null
-
     readonly property real distance: 2
 
     /// Opens beside the toolbar. With `byPointer` no control has the keyboard, else the one that had it last.
     function show(byPointer: bool): void {
-        formerFocus = anchor.Window.activeFocusItem;
+        former.item = anchor.Window.activeFocusItem;
         place();
         open();
+        session.guard.watch(background);
         if (byPointer)
             host.forceActiveFocus(Qt.PopupFocusReason);
         else
@@ -56,17 +54,6 @@ T.Popup {
         return backward ? (fitsBefore || !fitsBehind ? before : behind) : (fitsBehind || !fitsBefore ? behind : before);
     }
 
-    // Unless somebody else took the keyboard; the window itself is nobody.
-    function giveFocusBack(): void {
-        const now = formerFocus?.Window.activeFocusItem ?? null;
-        let above = formerFocus;
-        while (above && above !== now)
-            above = above.parent;
-        if (formerFocus && (!now || above))
-            formerFocus.forceActiveFocus(Qt.PopupFocusReason);
-        formerFocus = null;
-    }
-
     function scrollTo(control: QuickControl): void {
         if (!control)
             return;
@@ -81,7 +68,8 @@ T.Popup {
     dim: false
     margins: 4
     padding: 2
-    // While the toolbar is customised it stays open, for buttons that are dragged out and in.
+    // While the toolbar is customised it stays open, for buttons that are dragged out and in; also when the window is
+    // left, which the picker sees to.
     closePolicy: session.customizing ? T.Popup.CloseOnEscape : T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     implicitWidth: Math.min(host.implicitWidth + 2 * padding, (anchor?.Window.width ?? Infinity) - 2 * margins)
     implicitHeight: Math.min(host.implicitHeight + 2 * padding, (anchor?.Window.height ?? Infinity) - 2 * margins)
@@ -89,7 +77,14 @@ T.Popup {
     onImplicitWidthChanged: place()
     onImplicitHeightChanged: place()
 
-    onClosed: giveFocusBack()
+    onClosed: {
+        session.guard.unwatch(background);
+        former.giveBack(null);
+    }
+
+    FormerFocus {
+        id: former
+    }
 
     background: MenuPanel {
         color: popup.session.ground

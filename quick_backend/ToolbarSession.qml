@@ -18,6 +18,14 @@ QtObject {
     property color accent: "blue"
     property color ground: "white"
 
+    /// Watches the window while a popup or a tooltip shows.
+    readonly property WindowGuard guard: WindowGuard {
+        onWindowLeft: session.windowLeft()
+    }
+
+    /// The window over which something is open lost the focus or went away.
+    signal windowLeft
+
     /// A button was pressed, by the pointer or the keyboard.
     signal pressed
 

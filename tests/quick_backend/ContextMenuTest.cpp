@@ -1,4 +1,5 @@
 #include "tests/quick_backend/MenuWindow.h"
+#include "tests/quick_backend/OtherWindow.h"
 
 #include <gmock/gmock.h>
 
@@ -84,6 +85,16 @@ TEST_F(ContextMenu, APressElsewhereClosesIt)
     window.ClickAt({390, 290});
 
     EXPECT_THAT(window.OpenLists(), IsEmpty());
+}
+
+TEST_F(ContextMenu, GoesWhenTheWindowIsLeft)
+{
+    Track(10);
+
+    const OtherWindow other;
+
+    EXPECT_THAT(window.OpenLists(), IsEmpty());
+    EXPECT_FALSE(window.Menu().IsTracking());
 }
 
 TEST_F(ContextMenu, APopupThatIsRemovedFromTheBarOpensAndFires)

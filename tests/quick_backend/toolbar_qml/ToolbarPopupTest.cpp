@@ -1,4 +1,5 @@
 #include "quick_backend/CVqQuickMenu.h"
+#include "tests/quick_backend/OtherWindow.h"
 #include "tests/quick_backend/toolbar_qml/ToolbarPickerFixture.h"
 
 #include <gmock/gmock.h>
@@ -8,6 +9,30 @@ using testing::ElementsAre;
 namespace {
 
 using ToolbarPopup = ToolbarPickerFixture;
+
+/// open, with a popup of a menu, lies in the picker.
+class ToolbarPopupMenus : public testing::Test
+{
+protected:
+    ToolbarPopupMenus()
+    {
+        menu.AppendPopup(7, 0, VQ_TEXT("Recent"));
+        menu.AppendMenuItem(8, 7, VQ_TEXT("one"), VQ_TEXT("One"), 0);
+        menu.SetCmdHandler([this](vq_uint32 id) { fired.push_back(id); });
+        window.Find("contextMenu")->setProperty("menu", QVariant::fromValue(&menu));
+        window.Toolbar().SetMenu(&menu);
+        window.AddButton("new");
+        auto& open = window.AddButton("open");
+        open.SetHandler(nullptr);
+        ToolbarWindow::SetDropDown(open);
+        window.Click(window.Find("look:"));
+        window.Click(window.Part(open, "toolbarArrow"));
+    }
+
+    CVqQuickMenu menu;
+    std::vector<vq_uint32> fired;
+    ToolbarWindow window{"width: 60", EOrientation::Horizontal, "ContextMenu { anchors.fill: parent }"};
+};
 
 }
 
@@ -110,26 +135,54 @@ TEST_F(ToolbarPopup, ScrollsWhereTheWindowIsTooLow)
     EXPECT_TRUE(QRectF(0, 0, 400, 300).contains(focused));
 }
 
-TEST(ToolbarPopupMenus, WhatHangsFromAButtonInItOpensAboveIt)
+TEST_F(ToolbarPopup, GoesWhenTheWindowIsLeft)
 {
-    CVqQuickMenu menu;
-    menu.AppendPopup(7, 0, VQ_TEXT("Recent"));
-    menu.AppendMenuItem(8, 7, VQ_TEXT("one"), VQ_TEXT("One"), 0);
-    std::vector<vq_uint32> fired;
-    menu.SetCmdHandler([&fired](vq_uint32 id) { fired.push_back(id); });
-    ToolbarWindow window("width: 60", EOrientation::Horizontal, "ContextMenu { anchors.fill: parent }");
-    window.Find("contextMenu")->setProperty("menu", QVariant::fromValue(&menu));
-    window.Toolbar().SetMenu(&menu);
-    window.AddButton("new");
-    auto& open = window.AddButton("open");
-    open.SetHandler(nullptr);
-    ToolbarWindow::SetDropDown(open);
-    window.Click(window.Find("look:"));
+    Open();
+    ASSERT_TRUE(Panel());
 
-    window.Click(window.Part(open, "toolbarArrow"));
+    const OtherWindow other;
+
+    EXPECT_FALSE(Panel());
+    EXPECT_FALSE(window.Picker().IsOpened());
+}
+
+TEST_F(ToolbarPopup, WhoComesBackToTheWindowFindsTheKeyboardAtThePicker)
+{
+    OpenByKeyboard();
+    const OtherWindow other;
+
+    window.Window().requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window.Window()));
+
+    EXPECT_EQ(window.Focus(), "picker");
+}
+
+TEST_F(ToolbarPopup, WhileCustomisedItStaysWhenTheWindowIsLeft)
+{
+    window.Toolbar().EnableToolbarDragDrop(true);
+    Open();
+
+    const OtherWindow other;
+
+    EXPECT_TRUE(Panel());
+}
+
+TEST_F(ToolbarPopupMenus, WhatHangsFromAButtonInItOpensAboveIt)
+{
     ASSERT_TRUE(window.Find("menuRow0"));
+
     window.Click(window.Find("menuRow0"));
 
     EXPECT_THAT(fired, ElementsAre(8u));
     EXPECT_EQ(window.Find("menuRow0"), nullptr);
+}
+
+TEST_F(ToolbarPopupMenus, WhatHangsFromAButtonGoesWithItWhenTheWindowIsLeft)
+{
+    ASSERT_TRUE(window.Find("menuRow0"));
+
+    const OtherWindow other;
+
+    EXPECT_EQ(window.Find("menuRow0"), nullptr);
+    EXPECT_FALSE(window.Picker().IsOpened());
 }

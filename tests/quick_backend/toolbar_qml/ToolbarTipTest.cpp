@@ -1,3 +1,4 @@
+#include "tests/quick_backend/OtherWindow.h"
 #include "tests/quick_backend/toolbar_qml/ToolbarWindow.h"
 
 using namespace Qt::StringLiterals;
@@ -134,6 +135,19 @@ TEST_F(ToolbarTip, APressHidesItUntilThePointerComesToAnother)
 
     window.Hover(window.Look(*save));
     EXPECT_EQ(Tip(), "Save the picture|");
+}
+
+TEST_F(ToolbarTip, GoesWhenTheWindowIsLeftAndStaysAway)
+{
+    window.Hover(window.Look(*open));
+    ASSERT_NE(Tip(), "");
+
+    const OtherWindow other;
+    EXPECT_EQ(Tip(), "");
+
+    window.Window().requestActivate();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&window.Window()));
+    EXPECT_EQ(Tip(), "");
 }
 
 TEST_F(SlowToolbarTip, ComesAfterItsDelay)

@@ -1,3 +1,4 @@
+#include "tests/quick_backend/OtherWindow.h"
 #include "tests/quick_backend/toolbar_setup/SetupWindow.h"
 
 namespace {
@@ -80,6 +81,17 @@ TEST_F(ToolbarMenu, WorksByKeyboardAndGoesWithEscape)
     Press(Qt::Key_Return);
 
     EXPECT_EQ(Order(first), "open (save) - zoom undo");
+}
+
+TEST_F(ToolbarMenu, GoesWhenTheWindowIsLeft)
+{
+    OpenOn(Named(first, "save"));
+    ASSERT_TRUE(IsOpen());
+
+    const OtherWindow other;
+    Draw();
+
+    EXPECT_FALSE(IsOpen());
 }
 
 TEST_F(ToolbarMenu, WhileCustomisingItHidesForTheSessionOnly)
