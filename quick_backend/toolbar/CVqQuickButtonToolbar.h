@@ -70,13 +70,13 @@ public:
 
     // CVqAbstractButtonToolbar ---------------------------------------------------------------------------
 
-    /// Emits setupRequested(); who listens shows the dialog. `parent` is the address of the item over whose
-    /// window it should open, 0 for the toolbar's own; CVqQuickToolbarSetup, whose panel stands where the
-    /// application put it, takes no notice of it. `factory` is the toolbar's record to which a reset goes
-    /// back; an empty one stands for what the toolbar holds now. `button` is the identifier to begin at, or
-    /// 0. `commands` says whether commands of the menu may be added. `callback`, or null, is asked for the
-    /// text of each command, by its identifier, before it is offered; false leaves it out. Its window is
-    /// null.
+    /// Emits setupRequested(); who listens shows the dialog, such as a CVqQuickToolbarSetup with its panel.
+    /// `parent` is the address of the QQuickItem that wants it: the dialog opens in its window, and the
+    /// keyboard goes back to it; 0 for the toolbar's own window and whoever has the keyboard. `factory` is
+    /// the toolbar's record to which a reset goes back; an empty one stands for what the toolbar holds now.
+    /// `button` is the identifier to begin at, or 0. `commands` says whether commands of the menu may be
+    /// added. `callback`, or null, is asked for the text of each command, by its identifier, before it is
+    /// offered; false leaves it out. Its window is null.
     void ShowToolbarSetup(vq_uint64 parent, CVqVariant& factory, vq_uint64 button, bool commands,
                           setup_callback_type callback) override;
 

@@ -10,7 +10,7 @@ class QQuickItem;
 /// the record.
 struct SVqToolbarSetupRequest
 {
-    QQuickItem* m_parent = nullptr;     ///< Over whose window the dialog opens; null for the toolbar's own.
+    QQuickItem* m_parent = nullptr;     ///< In whose window the dialog opens; null for the toolbar's own.
     CVqVariant m_factory;               ///< What a reset goes back to; empty for what the toolbar holds now.
     CVqQuickControl* m_first = nullptr; ///< The control to begin at, or null.
     bool m_commands = false;            ///< Whether commands of the menu may be added.

@@ -125,38 +125,52 @@ void CVqQuickToolbarSetup::note_state(SVqCustomisedBar& bar)
     bar.m_bar->EnableToolbarDragDrop(true);
 }
 
-void CVqQuickToolbarSetup::enter(bool commands, AskFunction ask)
+void CVqQuickToolbarSetup::enter(CVqQuickButtonToolbar* bar, const SVqToolbarSetupRequest& request)
 {
     if (m_active || m_bars.empty())
         return;
-    for (const auto& bar : m_bars)
-        note_state(*bar);
-    m_commands_offered = commands;
-    m_ask = ask;
+    for (const auto& known : m_bars)
+        note_state(*known);
+    const CVqQuickButtonToolbar* shown = find(bar) ? bar : CurrentToolbar();
+    const QQuickItem* place = request.m_parent ? request.m_parent : shown->Area();
+    m_opener = request.m_parent;
+    m_window = place->window();
+    m_commands_offered = request.m_commands;
+    m_ask = request.m_callback;
     m_active = true;
     Q_EMIT activeChanged();
+}
+
+void CVqQuickToolbarSetup::choose(CVqQuickButtonToolbar* bar, CVqQuickControl* control)
+{
+    if (!m_active)
+        return;
+    if (find(bar))
+        SetCurrent(int(Toolbars().indexOf(bar)));
+    SetControl(control);
 }
 
 void CVqQuickToolbarSetup::answer(CVqQuickButtonToolbar& bar, const SVqToolbarSetupRequest& request)
 {
     if (request.m_factory.GetCount() > 0)
         find(&bar)->m_factory = request.m_factory;
-    enter(request.m_commands, request.m_callback);
-    beginAt(&bar, request.m_first);
+    enter(&bar, request);
+    choose(&bar, request.m_first);
 }
 
 void CVqQuickToolbarSetup::begin()
 {
-    enter(true, nullptr);
+    SVqToolbarSetupRequest request;
+    request.m_commands = true;
+    enter(nullptr, request);
 }
 
 void CVqQuickToolbarSetup::beginAt(CVqQuickButtonToolbar* bar, CVqQuickControl* control)
 {
-    begin();
-    if (m_active && find(bar))
-        SetCurrent(int(Toolbars().indexOf(bar)));
-    if (m_active)
-        SetControl(control);
+    SVqToolbarSetupRequest request;
+    request.m_commands = true;
+    enter(bar, request);
+    choose(bar, control);
 }
 
 void CVqQuickToolbarSetup::leave()
@@ -168,6 +182,8 @@ void CVqQuickToolbarSetup::leave()
     m_hidden->Forget();
     sweep();
     m_active = false;
+    m_opener = nullptr;
+    m_window = nullptr;
     SetControl(nullptr);
     Q_EMIT activeChanged();
 }

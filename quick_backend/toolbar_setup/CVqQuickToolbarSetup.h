@@ -1,9 +1,9 @@
 #pragma once
 
 // QML: ToolbarSetup, made in C++ or QML. Properties `active`, `toolbars`, `titles`, `current`, `toolbar`,
-// `control`, `commandsOffered`; functions begin(), beginAt(), accept(), cancel(), reset() and the changes
-// below; signals changed(), accepted(), cancelled(). Give it to ToolbarSetupPanel, ToolbarDragLayer and
-// ToolbarMenu.
+// `control`, `opener`, `window`, `commandsOffered`; functions begin(), beginAt(), accept(), cancel(), reset()
+// and the changes below; signals changed(), accepted(), cancelled(). Give it to ToolbarSetupPanel,
+// ToolbarDragLayer and ToolbarMenu.
 
 #include "AbstractGui/CVqAbstractButtonToolbar.h"
 #include "arbor_quick_backend_export.h"
@@ -13,6 +13,8 @@
 #include <QList>
 #include <QObject>
 #include <QPointer>
+#include <QQuickItem>
+#include <QQuickWindow>
 #include <QStringList>
 #include <QtQmlIntegration>
 
@@ -50,6 +52,8 @@ class ARBOR_QUICK_BACKEND_EXPORT CVqQuickToolbarSetup : public QObject
     Q_PROPERTY(int current READ Current WRITE SetCurrent NOTIFY currentChanged FINAL)
     Q_PROPERTY(CVqQuickButtonToolbar* toolbar READ CurrentToolbar NOTIFY currentChanged FINAL)
     Q_PROPERTY(CVqQuickControl* control READ Control WRITE SetControl NOTIFY controlChanged FINAL)
+    Q_PROPERTY(QQuickItem* opener READ Opener NOTIFY activeChanged FINAL)
+    Q_PROPERTY(QQuickWindow* window READ Window NOTIFY activeChanged FINAL)
     Q_PROPERTY(bool commandsOffered READ AreCommandsOffered NOTIFY activeChanged FINAL)
 
 public:
@@ -77,6 +81,14 @@ public:
     // The session ------------------------------------------------------------------------------------------
 
     bool IsActive() const { return m_active; }
+
+    /// The parent that ShowToolbarSetup() was given, to which the keyboard goes back at the end; null outside
+    /// of a session, and in one that was begun otherwise.
+    QQuickItem* Opener() const { return m_opener; }
+
+    /// Where the dialog is to open: the window of the opener, or without one that of the bar at which the
+    /// session began. Null outside of a session, and when that bar shows nowhere.
+    QQuickWindow* Window() const { return m_window; }
 
     /// Nothing happens in a session, or without a bar.
     Q_INVOKABLE void begin();
@@ -157,7 +169,9 @@ private:
     ARBOR_QUICK_BACKEND_NO_EXPORT SVqCustomisedBar* find(const CVqQuickButtonToolbar* bar) const;
     ARBOR_QUICK_BACKEND_NO_EXPORT void forget_lost_bars();
     ARBOR_QUICK_BACKEND_NO_EXPORT void note_state(SVqCustomisedBar& bar);
-    ARBOR_QUICK_BACKEND_NO_EXPORT void enter(bool commands, AskFunction ask);
+    ARBOR_QUICK_BACKEND_NO_EXPORT void enter(CVqQuickButtonToolbar* bar,
+                                             const SVqToolbarSetupRequest& request);
+    ARBOR_QUICK_BACKEND_NO_EXPORT void choose(CVqQuickButtonToolbar* bar, CVqQuickControl* control);
     ARBOR_QUICK_BACKEND_NO_EXPORT void answer(CVqQuickButtonToolbar& bar,
                                               const SVqToolbarSetupRequest& request);
     ARBOR_QUICK_BACKEND_NO_EXPORT void restore();
@@ -175,6 +189,8 @@ private:
     RebuiltFunction m_rebuilt;
     AskFunction m_ask = nullptr;
     QPointer<CVqQuickControl> m_control;
+    QPointer<QQuickItem> m_opener;
+    QPointer<QQuickWindow> m_window;
     int m_current = -1;
     bool m_commands_offered = true;
     bool m_active = false;
