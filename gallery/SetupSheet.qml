@@ -1,25 +1,14 @@
 import QtQuick
 import K7.Arbor.QuickBackend
 
-// What the toolbars are customised with, over the page: it takes the keyboard and gives it back.
-FocusScope {
+// What the toolbars are customised with, over the page.
+Item {
     id: sheet
 
     required property ToolbarSetup setup
     required property ToolbarDragLayer dragLayer
 
-    property Item before: null // who had the keyboard
-
     visible: setup.active
-    onVisibleChanged: {
-        if (visible) {
-            before = Window.activeFocusItem;
-            panel.forceActiveFocus(Qt.OtherFocusReason);
-        } else {
-            before?.forceActiveFocus(Qt.OtherFocusReason);
-            before = null;
-        }
-    }
 
     Rectangle {
         anchors.fill: parent

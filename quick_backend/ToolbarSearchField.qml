@@ -14,6 +14,7 @@ T.TextField {
     selectionColor: palette.highlight
     selectedTextColor: palette.highlightedText
     selectByMouse: true
+    horizontalAlignment: TextInput.AlignLeft
     verticalAlignment: TextInput.AlignVCenter
 
     Accessible.name: placeholderText
@@ -36,6 +37,7 @@ T.TextField {
         font: field.font
         color: field.palette.text
         opacity: 0.5
+        horizontalAlignment: Text.AlignLeft
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
     }

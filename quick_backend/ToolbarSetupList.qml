@@ -11,13 +11,17 @@ T.Control {
     property alias emptyText: empty.text
     readonly property alias view: list
 
-    readonly property real scrollBarWidth: scrollBar.visible ? scrollBar.width : 0
+    // The scroll bar stands beside the rows, at the end of their lines.
+    readonly property real edge: 4
+    readonly property real besideRows: edge + (scrollBar.visible ? scrollBar.width : 0)
 
     /// A key, before the list itself walks by it.
     signal keyPressed(event: KeyEvent)
 
     focusPolicy: Qt.NoFocus
-    padding: 4
+    padding: edge
+    leftPadding: mirrored ? besideRows : edge
+    rightPadding: mirrored ? edge : besideRows
 
     Accessible.role: Accessible.List
 
@@ -52,6 +56,11 @@ T.Control {
         T.ScrollBar.vertical: T.ScrollBar {
             id: scrollBar
 
+            objectName: "setupScrollBar"
+            parent: box
+            x: box.mirrored ? box.edge : box.width - width - box.edge
+            y: box.edge
+            height: box.availableHeight
             implicitWidth: 8
             padding: 1
             minimumSize: 0.08

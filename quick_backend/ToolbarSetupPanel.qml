@@ -3,10 +3,13 @@
 //
 //     ToolbarSetupPanel {
 //         setup: theSetup                 // a ToolbarSetup
-//         visible: theSetup.active
+//         visible: theSetup.active        // with panels in several windows: && theSetup.window === Window.window
 //         imageSource: "image://arbor/"   // optional
 //         dragLayer: theDragLayer         // optional: commands are dragged onto the bars
 //     }
+//
+// It takes the keyboard when it shows. When it goes, the keyboard is back at who had it, or at the setup's opener when
+// that is another part of the application; an opener in another window has its window in front again.
 //
 // By keyboard: in the list of buttons Space shows and hides, Alt with an arrow key moves, Delete removes, Insert adds a
 // separator; in the list of commands Enter adds. Escape cancels a drag, or else the session.
@@ -25,34 +28,34 @@ T.Control {
 
     property ToolbarDragLayer dragLayer: null
 
-    readonly property QuickToolbar toolbar: setup?.toolbar ?? null
-    readonly property QuickControl control: setup?.control ?? null
-    readonly property bool hasCommands: (setup?.commandsOffered ?? false)
-
     /// Whether the lists stand one below the other.
     readonly property bool stacked: width < 560
 
-    function addSeparator(): void {
-        const added = setup.addSeparator(toolbar, control);
-        if (added)
-            setup.control = added;
+    // Comes late: a menu in which the session was begun has closed by then and given the keyboard back.
+    function takeKeyboard(): void {
+        if (!visible)
+            return;
+        const opener = setup.opener;
+        const had = (opener ?? panel).Window.activeFocusItem;
+        if (!former.item)
+            former.item = opener && !former.isWithin(had, opener) ? opener : had;
+        if (opener)
+            show(Window.window, opener.Window.window);
+        forceActiveFocus(Qt.OtherFocusReason);
     }
 
-    // In front of the chosen button, where the user looks.
-    function addCommand(row: int): void {
-        const added = setup.addCommand(commands.commandAt(row), toolbar, control);
-        if (added)
-            setup.control = added;
+    function giveKeyboardBack(): void {
+        if (visible || !former.item)
+            return;
+        if (Window.active)
+            show(former.item.Window.window, Window.window);
+        former.giveBack(panel);
     }
 
-    function removeControl(): void {
-        const row = rows.rowOf(control);
-        if (setup.remove(control))
-            setup.control = rows.controlAt(Math.min(row, rows.count - 1));
-    }
-
-    function focusButtons(): void {
-        buttons.view.forceActiveFocus(Qt.OtherFocusReason);
+    // Brings `window`, of QML or C++, before the one that is used now.
+    function show(window: var, present: var): void {
+        if (window && window !== present)
+            window.requestActivate();
     }
 
     objectName: "toolbarSetupPanel"
@@ -67,69 +70,18 @@ T.Control {
     Accessible.name: title.text
 
     Keys.onEscapePressed: {
-        if (rows.before !== undefined)
-            rows.putBack();
+        if (buttons.dragging)
+            buttons.putBack();
         else if (dragLayer?.drag.lifted)
             dragLayer.drag.cancel();
         else
             setup.cancel();
     }
 
+    onVisibleChanged: Qt.callLater(visible ? takeKeyboard : giveKeyboardBack)
+
     background: Rectangle {
         color: panel.palette.window
-    }
-
-    ToolbarSetupRows {
-        id: rows
-
-        /// While a row is dragged: what stood behind it.
-        property var before: undefined
-
-        function putBack(): void {
-            panel.setup.move(panel.control, panel.toolbar, before);
-            before = undefined;
-        }
-
-        // The end of the session cancels a drag, too, and has settled already what stays.
-        function cancelDrag(): void {
-            if (before !== undefined && panel.setup.active)
-                putBack();
-            before = undefined;
-        }
-
-        function dragTo(place: point): void {
-            const inside = buttons.view.contentItem.mapFromItem(buttons.view, place);
-            const target = buttons.view.indexAt(1, Math.max(0, Math.min(inside.y, buttons.view.contentHeight - 1)));
-            const row = rowOf(panel.control);
-            if (before === undefined || target < 0 || target === row)
-                return;
-            panel.setup.move(panel.control, panel.toolbar, controlAt(target > row ? target + 1 : target));
-        }
-
-        setup: panel.setup
-        toolbar: panel.toolbar
-    }
-
-    ToolbarCommandRows {
-        id: commands
-
-        setup: panel.setup
-        toolbar: panel.toolbar
-        filter: search.text
-        onFilterChanged: commandList.currentIndex = 0
-    }
-
-    // The list follows the choice on the bars, and the other way round.
-    Connections {
-        target: panel.setup
-
-        function onControlChanged(): void {
-            buttons.currentIndex = rows.rowOf(panel.setup.control);
-        }
-
-        function onChanged(): void {
-            buttons.currentIndex = rows.rowOf(panel.setup.control);
-        }
     }
 
     contentItem: Item {
@@ -170,176 +122,30 @@ T.Control {
             onPicked: index => panel.setup.current = index
         }
 
-        ToolbarSetupList {
+        ToolbarSetupButtons {
             id: buttons
 
-            objectName: "setupButtons"
             anchors.left: parent.left
             y: content.listTop
             width: content.half
-            height: content.columnHeight - tools.height - 8
-            model: rows
-            emptyText: qsTr("There are no buttons on this toolbar.")
-            Accessible.name: qsTr("Buttons of the toolbar")
-
-            onKeyPressed: event => handleKey(event)
-
-            function handleKey(event: KeyEvent): void {
-                const moves = (event.modifiers & (Qt.AltModifier | Qt.ControlModifier)) !== 0;
-                event.accepted = true;
-                if (moves && event.key === Qt.Key_Up)
-                    panel.setup.step(panel.control, -1, false);
-                else if (moves && event.key === Qt.Key_Down)
-                    panel.setup.step(panel.control, 1, false);
-                else if (event.key === Qt.Key_Space)
-                    (buttons.view.currentItem as ToolbarSetupRow)?.toggle();
-                else if (event.key === Qt.Key_Delete)
-                    panel.removeControl();
-                else if (event.key === Qt.Key_Insert)
-                    panel.addSeparator();
-                else
-                    event.accepted = false;
-            }
-
-            Connections {
-                target: buttons.view
-
-                function onCurrentIndexChanged(): void {
-                    if (buttons.view.activeFocus)
-                        panel.setup.control = rows.controlAt(buttons.currentIndex);
-                }
-
-                function onActiveFocusChanged(): void {
-                    if (buttons.view.activeFocus && !panel.control)
-                        panel.setup.control = rows.controlAt(0);
-                }
-            }
-
-            delegate: ToolbarSetupRow {
-                width: (ListView.view?.width ?? 0) - buttons.scrollBarWidth
-                imageSource: panel.imageSource
-                font: panel.font
-                palette: panel.palette
-                onPointedAt: {
-                    panel.setup.control = control;
-                    panel.focusButtons();
-                }
-                onToggled: panel.setup.setShown(control, !shown)
-                onLifted: rows.before = rows.controlAt(index + 1)
-                onDraggedTo: place => rows.dragTo(place)
-                onDropped: rows.before = undefined
-                onCancelled: rows.cancelDrag()
-            }
+            height: content.columnHeight
+            setup: panel.setup
+            imageSource: panel.imageSource
+            font: panel.font
+            palette: panel.palette
         }
 
-        Row {
-            id: tools
-
-            anchors.left: parent.left
-            anchors.top: buttons.bottom
-            anchors.topMargin: 8
-            spacing: 6
-
-            ToolbarSetupTool {
-                objectName: "setupUp"
-                arrow: -1
-                text: qsTr("Move up")
-                enabled: buttons.currentIndex > 0
-                font: panel.font
-                onClicked: panel.setup.step(panel.control, -1, false)
-            }
-
-            ToolbarSetupTool {
-                objectName: "setupDown"
-                arrow: 1
-                text: qsTr("Move down")
-                enabled: buttons.currentIndex >= 0 && buttons.currentIndex < rows.count - 1
-                font: panel.font
-                onClicked: panel.setup.step(panel.control, 1, false)
-            }
-
-            ToolbarSetupTool {
-                objectName: "setupSeparator"
-                text: qsTr("Add separator")
-                enabled: panel.toolbar !== null
-                font: panel.font
-                onClicked: panel.addSeparator()
-            }
-
-            ToolbarSetupTool {
-                objectName: "setupRemove"
-                text: qsTr("Remove")
-                enabled: panel.control !== null && panel.control.kind !== QuickControl.General
-                font: panel.font
-                onClicked: panel.removeControl()
-            }
-        }
-
-        Item {
-            id: offer
-
-            x: panel.mirrored || panel.stacked ? 0 : content.width - width
+        ToolbarSetupCommands {
+            anchors.right: parent.right
             y: panel.stacked ? content.listTop + content.columnHeight + content.gap : content.listTop
             width: content.half
             height: content.columnHeight
-            visible: panel.hasCommands
-
-            ToolbarSearchField {
-                id: search
-
-                objectName: "setupSearch"
-                width: parent.width
-                placeholderText: qsTr("Search commands")
-                font: panel.font
-                Keys.onEscapePressed: event => {
-                    event.accepted = text !== "";
-                    clear();
-                }
-                Keys.onDownPressed: commandList.view.forceActiveFocus(Qt.OtherFocusReason)
-                onAccepted: panel.addCommand(commandList.currentIndex)
-            }
-
-            ToolbarSetupList {
-                id: commandList
-
-                objectName: "setupCommands"
-                anchors.top: search.bottom
-                anchors.topMargin: 8
-                anchors.bottom: add.top
-                anchors.bottomMargin: 8
-                width: parent.width
-                model: commands
-                emptyText: search.text === "" ? qsTr("There are no commands.") : qsTr("No command matches.")
-                Accessible.name: qsTr("Commands")
-
-                Keys.onReturnPressed: panel.addCommand(currentIndex)
-                Keys.onEnterPressed: panel.addCommand(currentIndex)
-
-                delegate: ToolbarCommandRow {
-                    width: (ListView.view?.width ?? 0) - commandList.scrollBarWidth
-                    imageSource: panel.imageSource
-                    dragLayer: panel.dragLayer
-                    font: panel.font
-                    palette: panel.palette
-                    onPointedAt: {
-                        commandList.currentIndex = index;
-                        commandList.view.forceActiveFocus(Qt.MouseFocusReason);
-                    }
-                    onPicked: panel.addCommand(index)
-                }
-            }
-
-            ToolbarSetupTool {
-                id: add
-
-                objectName: "setupAdd"
-                anchors.bottom: parent.bottom
-                anchors.left: parent.left
-                text: qsTr("Add to the toolbar")
-                enabled: commandList.currentIndex >= 0 && commands.count > 0
-                font: panel.font
-                onClicked: panel.addCommand(commandList.currentIndex)
-            }
+            visible: panel.setup?.commandsOffered ?? false
+            setup: panel.setup
+            imageSource: panel.imageSource
+            dragLayer: panel.dragLayer
+            font: panel.font
+            palette: panel.palette
         }
 
         Item {
@@ -378,6 +184,10 @@ T.Control {
                 onClicked: panel.setup.accept()
             }
         }
+    }
+
+    FormerFocus {
+        id: former
     }
 
     FontMetrics {

@@ -282,30 +282,7 @@
     </message>
 </context>
 <context>
-    <name>ToolbarSetupPad</name>
-    <message>
-        <source>Separator</source>
-        <translation>Trennlinie</translation>
-    </message>
-    <message>
-        <source>Arrow keys choose a button, with Alt they move it. Delete removes it, Insert adds a separator.</source>
-        <translation>Pfeiltasten wählen eine Schaltfläche, mit Alt verschieben sie sie. Entf entfernt sie, Einfg fügt eine Trennlinie ein.</translation>
-    </message>
-    <message>
-        <source>Customise %1</source>
-        <translation>%1 anpassen</translation>
-    </message>
-    <message>
-        <source>%1, %2 of %3 on %4</source>
-        <translation>%1, %2 von %3 auf %4</translation>
-    </message>
-</context>
-<context>
-    <name>ToolbarSetupPanel</name>
-    <message>
-        <source>Customise toolbars</source>
-        <translation>Symbolleisten anpassen</translation>
-    </message>
+    <name>ToolbarSetupButtons</name>
     <message>
         <source>There are no buttons on this toolbar.</source>
         <translation>Auf dieser Symbolleiste sind keine Schaltflächen.</translation>
@@ -330,6 +307,9 @@
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
+</context>
+<context>
+    <name>ToolbarSetupCommands</name>
     <message>
         <source>Search commands</source>
         <translation>Befehle suchen</translation>
@@ -349,6 +329,32 @@
     <message>
         <source>Add to the toolbar</source>
         <translation>Zur Symbolleiste hinzufügen</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupPad</name>
+    <message>
+        <source>Separator</source>
+        <translation>Trennlinie</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose a button, with Alt they move it. Delete removes it, Insert adds a separator.</source>
+        <translation>Pfeiltasten wählen eine Schaltfläche, mit Alt verschieben sie sie. Entf entfernt sie, Einfg fügt eine Trennlinie ein.</translation>
+    </message>
+    <message>
+        <source>Customise %1</source>
+        <translation>%1 anpassen</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3 on %4</source>
+        <translation>%1, %2 von %3 auf %4</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupPanel</name>
+    <message>
+        <source>Customise toolbars</source>
+        <translation>Symbolleisten anpassen</translation>
     </message>
     <message>
         <source>Reset</source>

@@ -282,30 +282,7 @@
     </message>
 </context>
 <context>
-    <name>ToolbarSetupPad</name>
-    <message>
-        <source>Separator</source>
-        <translation>区切り線</translation>
-    </message>
-    <message>
-        <source>Arrow keys choose a button, with Alt they move it. Delete removes it, Insert adds a separator.</source>
-        <translation>矢印キーでボタンを選び、Alt と矢印キーで移動します。Delete で削除し、Insert で区切り線を追加します。</translation>
-    </message>
-    <message>
-        <source>Customise %1</source>
-        <translation>%1 のカスタマイズ</translation>
-    </message>
-    <message>
-        <source>%1, %2 of %3 on %4</source>
-        <translation>%1、%4 の %3 個中 %2 番目</translation>
-    </message>
-</context>
-<context>
-    <name>ToolbarSetupPanel</name>
-    <message>
-        <source>Customise toolbars</source>
-        <translation>ツールバーのカスタマイズ</translation>
-    </message>
+    <name>ToolbarSetupButtons</name>
     <message>
         <source>There are no buttons on this toolbar.</source>
         <translation>このツールバーにはボタンがありません。</translation>
@@ -330,6 +307,9 @@
         <source>Remove</source>
         <translation>削除</translation>
     </message>
+</context>
+<context>
+    <name>ToolbarSetupCommands</name>
     <message>
         <source>Search commands</source>
         <translation>コマンドを検索</translation>
@@ -349,6 +329,32 @@
     <message>
         <source>Add to the toolbar</source>
         <translation>ツールバーに追加</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupPad</name>
+    <message>
+        <source>Separator</source>
+        <translation>区切り線</translation>
+    </message>
+    <message>
+        <source>Arrow keys choose a button, with Alt they move it. Delete removes it, Insert adds a separator.</source>
+        <translation>矢印キーでボタンを選び、Alt と矢印キーで移動します。Delete で削除し、Insert で区切り線を追加します。</translation>
+    </message>
+    <message>
+        <source>Customise %1</source>
+        <translation>%1 のカスタマイズ</translation>
+    </message>
+    <message>
+        <source>%1, %2 of %3 on %4</source>
+        <translation>%1、%4 の %3 個中 %2 番目</translation>
+    </message>
+</context>
+<context>
+    <name>ToolbarSetupPanel</name>
+    <message>
+        <source>Customise toolbars</source>
+        <translation>ツールバーのカスタマイズ</translation>
     </message>
     <message>
         <source>Reset</source>

@@ -25,7 +25,8 @@ protected:
 
 INSTANTIATE_TEST_SUITE_P(, ToolbarTexts,
                          testing::Values(File{"ToolbarMenu", 4}, File{"ToolbarSession", 1},
-                                         File{"ToolbarSetupPad", 4}, File{"ToolbarSetupPanel", 16},
+                                         File{"ToolbarSetupButtons", 6}, File{"ToolbarSetupCommands", 5},
+                                         File{"ToolbarSetupPad", 4}, File{"ToolbarSetupPanel", 5},
                                          File{"ToolbarSetupRow", 2}, File{"ToolbarSetupTabs", 1}),
                          [](const auto& row) { return row.param.name; });
 

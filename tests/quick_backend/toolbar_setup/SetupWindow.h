@@ -87,9 +87,12 @@ public:
     static QPoint On(CVqQuickControl* control, qreal part) { return On(control->Item(), part); }
 
     /// The first visible item of that object name, or null.
-    QQuickItem* Find(const char* name)
+    QQuickItem* Find(const char* name) { return Part(Window().contentItem(), name); }
+
+    /// The same in an item.
+    static QQuickItem* Part(QQuickItem* of, const char* name)
     {
-        return FindBelow(Window().contentItem(), QString::fromLatin1(name));
+        return FindBelow(of, QString::fromLatin1(name));
     }
 
     static QAccessibleInterface* Accessible(QQuickItem* item)
