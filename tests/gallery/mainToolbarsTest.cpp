@@ -132,6 +132,27 @@ TEST_F(ArborGalleryToolbars, CustomisedToolbarsAreAsTheyWereLeft)
     EXPECT_EQ(Printed(), printed);
 }
 
+TEST_F(ArborGalleryToolbars, AButtonThatWasDraggedToAnotherToolbarIsThereInTheNextRun)
+{
+    Drive(begin() + QStringList{u"@drag main/EditCopy text/ViewGrid:10"_s, u"@click setupDone"_s});
+
+    EXPECT_FALSE(Shows(u"main/EditCopy"_s));
+    EXPECT_EQ(Drive({u"@click text/EditCopy"_s}), QStringList{u"1105 EditCopy"_s});
+}
+
+TEST_F(ArborGalleryToolbars, AfterAResetTheFactoryToolbarsAreThereInTheNextRun)
+{
+    Drive(begin() + changes() + QStringList{u"@click setupDone"_s});
+    ASSERT_FALSE(Shows(u"main/EditCut"_s));
+
+    Drive({u"@right main/EditCopy"_s, u"@click toolbarMenuCustomise"_s, u"@click setupReset"_s,
+           u"@click setupDone"_s});
+
+    EXPECT_EQ(Drive({u"@click main/EditCut"_s, u"@click main/AdjustSepia"_s}),
+              (QStringList{u"1104 EditCut"_s, u"nothing to see"_s}));
+    EXPECT_EQ(Printed().count(u"\"level\""_s), 4); // the file and three names, without a record
+}
+
 TEST_F(ArborGalleryToolbars, WhatIsCancelledIsAsItWas)
 {
     const QStringList told
