@@ -1,6 +1,8 @@
 #include "docs/snippets/toolbar_guide.h"
 #include "system/CVqVariant.h"
 
+#include <QSettings>
+
 // [snippet]
 void customise(CVqQuickToolbarSetup& setup, CVqQuickButtonToolbar& bar)
 {
@@ -9,7 +11,10 @@ void customise(CVqQuickToolbarSetup& setup, CVqQuickButtonToolbar& bar)
     bar.Save(factory, nullptr);
     setup.AddToolbar(bar, factory, QStringLiteral("Main"));
 
-    QObject::connect(&setup, &CVqQuickToolbarSetup::accepted, &bar,
-                     [&bar] { save_toolbar(bar, QStringLiteral("main.cbor")); });
+    QObject::connect(&setup, &CVqQuickToolbarSetup::accepted, &bar, [&bar] {
+        save_toolbar(bar, QStringLiteral("main.cbor"));
+        QSettings(QStringLiteral("main.ini"), QSettings::IniFormat)
+            .setValue(QStringLiteral("hidden"), hidden_buttons(bar));
+    });
 }
 // [end]

@@ -4,7 +4,7 @@
 #include "quick_backend/toolbar/CVqQuickButtonToolbar.h"
 #include "quick_backend/toolbar_setup/CVqQuickToolbarSetup.h"
 
-#include <QString>
+#include <QStringList>
 
 class QQuickItem;
 
@@ -13,4 +13,8 @@ void fill_toolbar(CVqQuickButtonToolbar& bar, CVqQuickMenu& menu);
 void add_slider(CVqQuickButtonToolbar& bar, QQuickItem* slider);
 bool save_toolbar(CVqQuickButtonToolbar& bar, const QString& name);
 bool load_toolbar(CVqQuickButtonToolbar& bar, const QString& name);
+QStringList hidden_buttons(CVqQuickButtonToolbar& bar);
+void hide_buttons(CVqQuickButtonToolbar& bar, const QStringList& names);
 void customise(CVqQuickToolbarSetup& setup, CVqQuickButtonToolbar& bar);
+void start_toolbar(CVqQuickToolbarSetup& setup, CVqQuickButtonToolbar& bar, CVqQuickMenu& menu,
+                   QQuickItem* slider);

@@ -54,6 +54,34 @@ TEST_F(MenuGuide, AKeyThatAnotherCommandHasIsNotTaken)
     EXPECT_EQ(TestMenu::Keys(m_menu.SecondTable()), "");
 }
 
+TEST_F(MenuGuide, AKeyThatTheCommandHasIsNotAddedAgain)
+{
+    give_keys(m_menu);
+    assign_user_key(m_menu, 20, 2, VQ_TEXT('R'));
+
+    const bool assigned = assign_user_key(m_menu, 20, 2, VQ_TEXT('R'));
+
+    EXPECT_TRUE(assigned);
+    EXPECT_EQ(TestMenu::Keys(m_menu.SecondTable()), "20:18+82");
+}
+
+TEST_F(MenuGuide, AKeyOfTheUserIsAssignedAgainBehindALoad)
+{
+    give_keys(m_menu);
+    assign_user_key(m_menu, 20, 2, VQ_TEXT('R'));
+    TestMenu other;
+
+    EXPECT_TRUE(save_menu(m_menu, m_file));
+    EXPECT_TRUE(load_menu(other, m_file));
+    EXPECT_EQ(TestMenu::Keys(other.SecondTable()), "");
+    EXPECT_TRUE(assign_user_key(other, 20, 2, VQ_TEXT('R')));
+
+    vq_uint64 target = 1;
+    vq_uint32 id = 0;
+    EXPECT_TRUE(other.Translate(VQ_TEXT('R'), 2, target, id));
+    EXPECT_EQ(id, 20U);
+}
+
 TEST_F(MenuGuide, HidingACommandHidesItsItemAndTheSeparatorThatIsLeftOver)
 {
     m_menu.AppendMenuItem(11, 10, VQ_TEXT("Open"), VQ_TEXT("FileOpen"), 0);

@@ -1,5 +1,6 @@
 #include "docs/snippets/toolbar_guide.h"
 
+#include "AbstractGui/VqHiddenToolbarButtons.h"
 #include "quick_backend/toolbar/CVqQuickItemControl.h"
 
 #include <QDir>
@@ -23,14 +24,45 @@ protected:
         fill_toolbar(m_bar, m_menu);
     }
 
-    CVqQuickControl& Control(const vq_wchar* name)
+    ~ToolbarGuide() override { VQ_SetToolbarButtonAsHidden(VQ_TEXT("main"), nullptr, false, false); }
+
+    CVqQuickControl& Control(const vq_wchar* name) { return ControlOf(m_bar, name); }
+
+    static CVqQuickControl& ControlOf(CVqQuickButtonToolbar& bar, const vq_wchar* name)
     {
-        return dynamic_cast<CVqQuickControl&>(*m_bar.ControlFromId(m_bar.FindButton(name)));
+        return dynamic_cast<CVqQuickControl&>(*bar.ControlFromId(bar.FindButton(name)));
     }
 
     CVqQuickMenu m_menu;
     CVqQuickButtonToolbar m_bar{VQ_TEXT("main")};
     const QTemporaryDir m_folder;
+};
+
+/// A program that keeps its files in the current folder, which is a temporary one meanwhile.
+class ToolbarGuideAtStart : public ToolbarGuide
+{
+protected:
+    ToolbarGuideAtStart() { QDir::setCurrent(m_folder.path()); }
+    ~ToolbarGuideAtStart() override { QDir::setCurrent(m_before); }
+
+    /// One run of that program.
+    struct Run
+    {
+        explicit Run(CVqQuickMenu& menu) { start_toolbar(setup, bar, menu, new QQuickItem); }
+
+        QString NameAt(unsigned index)
+        {
+            CVqStringW name;
+            bar.GetButtonName(bar.GetButtonID(index, false), name);
+            return name.ToQString();
+        }
+
+        CVqQuickButtonToolbar bar{VQ_TEXT("main")};
+        CVqQuickToolbarSetup setup;
+    };
+
+private:
+    const QString m_before = QDir::currentPath();
 };
 
 }
@@ -81,21 +113,67 @@ TEST_F(ToolbarGuide, AFileThatIsNoRecordLeavesTheToolbar)
     EXPECT_EQ(m_bar.GetButtonsCount(), 3U);
 }
 
-TEST_F(ToolbarGuide, WhatIsAcceptedIsStored)
+TEST_F(ToolbarGuide, WhatTheApplicationHidesIsNotTheUsers)
 {
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(m_folder.path());
-    CVqQuickToolbarSetup setup;
-    customise(setup, m_bar);
+    VQ_SetToolbarButtonAsHidden(VQ_TEXT("main"), VQ_TEXT("open"), true, true);
 
-    setup.begin();
-    setup.remove(&Control(VQ_TEXT("open")));
-    setup.accept();
-    CVqQuickButtonToolbar other(VQ_TEXT("other"));
-    const bool loaded = load_toolbar(other, u"main.cbor"_s);
-    QDir::setCurrent(before);
+    hide_buttons(m_bar, {u"play"_s});
+    const QStringList hidden = hidden_buttons(m_bar);
+    VQ_SetToolbarButtonAsHidden(VQ_TEXT("main"), VQ_TEXT("open"), false, true);
 
-    EXPECT_TRUE(loaded);
-    EXPECT_EQ(other.FindButton(VQ_TEXT("open")), 0U);
-    EXPECT_NE(other.FindButton(VQ_TEXT("play")), 0U);
+    EXPECT_EQ(hidden, QStringList{u"play"_s});
+}
+
+TEST_F(ToolbarGuide, AnItemTakesThePlaceThatALoadLeft)
+{
+    m_bar.InsertButtonBefore(m_bar.FindButton(VQ_TEXT("play")), VQ_TEXT("zoom"));
+
+    add_slider(m_bar, new QQuickItem);
+
+    EXPECT_EQ(m_bar.GetButtonsCount(), 4U);
+    EXPECT_EQ(m_bar.GetButtonID(2, false), m_bar.FindButton(VQ_TEXT("zoom")));
+    EXPECT_EQ(Control(VQ_TEXT("zoom")).GetKind(), CVqQuickControl::General);
+}
+
+TEST_F(ToolbarGuideAtStart, TheFirstRunHasTheToolbarAsItWasBuiltAndTheItemBehind)
+{
+    Run run(m_menu);
+
+    EXPECT_EQ(run.bar.GetButtonsCount(), 4U);
+    EXPECT_EQ(run.NameAt(0), u"open"_s);
+    EXPECT_EQ(run.NameAt(3), u"zoom"_s);
+}
+
+TEST_F(ToolbarGuideAtStart, TheNextRunHasWhatWasAccepted)
+{
+    {
+        Run run(m_menu);
+        run.setup.begin();
+        run.setup.move(&ControlOf(run.bar, VQ_TEXT("zoom")), &run.bar, &ControlOf(run.bar, VQ_TEXT("open")));
+        run.setup.setShown(&ControlOf(run.bar, VQ_TEXT("play")), false);
+        run.setup.accept();
+    }
+    VQ_SetToolbarButtonAsHidden(VQ_TEXT("main"), nullptr, false, false);
+
+    Run next(m_menu);
+
+    EXPECT_EQ(next.NameAt(0), u"zoom"_s);
+    EXPECT_EQ(ControlOf(next.bar, VQ_TEXT("zoom")).GetKind(), CVqQuickControl::General);
+    EXPECT_FALSE(next.bar.GetButtonVisibility(next.bar.FindButton(VQ_TEXT("play"))));
+}
+
+TEST_F(ToolbarGuideAtStart, AResetGoesBackToTheToolbarAsItWasBuilt)
+{
+    {
+        Run run(m_menu);
+        run.setup.remove(&ControlOf(run.bar, VQ_TEXT("open")));
+    }
+    Run next(m_menu);
+    EXPECT_EQ(next.bar.FindButton(VQ_TEXT("open")), 0U);
+
+    next.setup.begin();
+    next.setup.reset();
+
+    EXPECT_EQ(next.NameAt(0), u"open"_s);
+    EXPECT_EQ(next.NameAt(3), u"zoom"_s);
 }
