@@ -48,7 +48,9 @@ public:
     /// An image by one name; -12 without a pool.
     static int AddImage(const vq_wchar* file);
 
-    /// An image by its source; `module` and `resource` may be null. -12 without a pool.
+    /// An image by its source; `module` and `resource` may be null. -12 without a pool. What the texts are is
+    /// up to the pool: stored menus and controls hand in both texts of GetImageSource() and null, toolbars
+    /// the two that they were given and null.
     static int AddImage(const vq_wchar* file, const vq_wchar* module, const vq_wchar* resource);
 
     /// A scalable image by its text under a name, new or in place of the one there; -1 without a pool.

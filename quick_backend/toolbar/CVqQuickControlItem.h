@@ -10,7 +10,8 @@ class CVqQuickToolbarArea;
 ///
 /// The look is made from the components of the area's ToolbarLooks, once, as soon as the item lies in an area
 /// that has them; it fills the item, has the required property `control`, and moves along with the item.
-/// Keyboard and screen reader come with the look.
+/// Keyboard and screen reader come with the look. Not to be taken for a CVqQuickItemControl, which is a
+/// control that hosts an item of the application's.
 class CVqQuickControlItem : public QQuickItem
 {
     Q_OBJECT

@@ -1,7 +1,5 @@
 #include "quick_backend/toolbar/CVqQuickItemControl.h"
 
-#include "quick_backend/toolbar/CVqQuickControlItem.h"
-
 #include <QQmlEngine>
 #include <QQuickItem>
 
