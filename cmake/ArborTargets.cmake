@@ -75,14 +75,14 @@ function(arbor_sources target)
     PUBLIC FILE_SET HEADERS FILES ${public_headers})
 endfunction()
 
-# arbor_tests(<name> [DISPLAY] [PREFIX <text>] DEPENDS <targets>... SOURCES <TestFile>...)
+# arbor_tests(<name> [DISPLAY] [ALONE] [PREFIX <text>] DEPENDS <targets>... SOURCES <TestFile>...)
 # One test program a folder, one CTest entry a case. DISPLAY: with OpenGL on an X display, under Xvfb where
 # there is no other. PREFIX: in front of each entry's name, for a second program with the same cases.
 #
 # An instrumented program is one entry, <name>: there a process costs more than most cases do, and cases that run
-# one after the other show what they leave to each other.
+# one after the other show what they leave to each other. ALONE: not this one, whose cases end the application object.
 function(arbor_tests name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY" "PREFIX" "DEPENDS;SOURCES")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "DISPLAY;ALONE" "PREFIX" "DEPENDS;SOURCES")
   set(sources ${arg_SOURCES})
   list(TRANSFORM sources APPEND ".cpp")
   add_executable(${name} ${sources})
@@ -98,7 +98,7 @@ function(arbor_tests name)
     endif()
     set_target_properties(${name} PROPERTIES ${launcher} ${PROJECT_SOURCE_DIR}/tools/with_display)
   endif()
-  if(ARBOR_INSTRUMENTED)
+  if(ARBOR_INSTRUMENTED AND NOT arg_ALONE)
     add_test(NAME ${name} COMMAND ${name})
     set_tests_properties(${name} PROPERTIES TIMEOUT 1500 ${environment})
     return()
